@@ -209,7 +209,8 @@ RAVIX_API int ravix_types_radio_load_table_add_entry(ravix_radio_load_table_t *t
  *  @{ */
 RAVIX_API ravix_radio_airtime_entry_t *ravix_types_radio_airtime_entry_create(void);
 
-AVIX_API ravix_radio_airtime_entry_t *ravix_types_radio_airtime_entry_clone(const ravix_radio_airtime_entry_t *old_obj);
+RAVIX_API ravix_radio_airtime_entry_t *
+ravix_types_radio_airtime_entry_clone(const ravix_radio_airtime_entry_t *old_obj);
 RAVIX_API int ravix_types_radio_airtime_entry_copy(const ravix_radio_airtime_entry_t *src,
                                                    ravix_radio_airtime_entry_t *dest);
 RAVIX_API void ravix_types_radio_airtime_entry_clear(ravix_radio_airtime_entry_t *obj);
@@ -222,7 +223,8 @@ RAVIX_API void ravix_types_radio_airtime_entry_free(ravix_radio_airtime_entry_t 
 RAVIX_API int ravix_types_radio_airtime_table_init(ravix_radio_airtime_table_t *table, unsigned count);
 RAVIX_API ravix_radio_airtime_table_t *ravix_types_radio_airtime_table_create(unsigned count);
 
-AVIX_API ravix_radio_airtime_table_t *ravix_types_radio_airtime_table_clone(const ravix_radio_airtime_table_t *old_obj);
+RAVIX_API ravix_radio_airtime_table_t *
+ravix_types_radio_airtime_table_clone(const ravix_radio_airtime_table_t *old_obj);
 RAVIX_API int ravix_types_radio_airtime_table_copy(const ravix_radio_airtime_table_t *src,
                                                    ravix_radio_airtime_table_t *dest);
 RAVIX_API void ravix_types_radio_airtime_table_clear(ravix_radio_airtime_table_t *table);

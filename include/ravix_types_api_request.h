@@ -55,8 +55,8 @@ RAVIX_API void ravix_types_start_scan_request_free(ravix_start_scan_request_t *o
 /** @name Start of a scan: response
  *  @{ */
 RAVIX_API ravix_start_scan_response_t *ravix_types_start_scan_response_create(void);
-
-AVIX_API ravix_start_scan_response_t *ravix_types_start_scan_response_clone(const ravix_start_scan_response_t *old_obj);
+RAVIX_API ravix_start_scan_response_t *
+ravix_types_start_scan_response_clone(const ravix_start_scan_response_t *old_obj);
 RAVIX_API int ravix_types_start_scan_response_copy(const ravix_start_scan_response_t *src,
                                                    ravix_start_scan_response_t *dest);
 RAVIX_API void ravix_types_start_scan_response_clear(ravix_start_scan_response_t *obj);
@@ -66,8 +66,7 @@ RAVIX_API void ravix_types_start_scan_response_free(ravix_start_scan_response_t 
 /** @name Scan results: request
  *  @{ */
 RAVIX_API ravix_get_scan_results_request_t *ravix_types_get_scan_results_request_create(void);
-
-AVIX_API ravix_get_scan_results_request_t *
+RAVIX_API ravix_get_scan_results_request_t *
 ravix_types_get_scan_results_request_clone(const ravix_get_scan_results_request_t *old_obj);
 RAVIX_API int ravix_types_get_scan_results_request_copy(const ravix_get_scan_results_request_t *src,
                                                         ravix_get_scan_results_request_t *dest);
@@ -78,8 +77,7 @@ RAVIX_API void ravix_types_get_scan_results_request_free(ravix_get_scan_results_
 /** @name Scan results: response
  *  @{ */
 RAVIX_API ravix_get_scan_results_response_t *ravix_types_get_scan_results_response_create(void);
-
-AVIX_API ravix_get_scan_results_response_t *
+RAVIX_API ravix_get_scan_results_response_t *
 ravix_types_get_scan_results_response_clone(const ravix_get_scan_results_response_t *old_obj);
 RAVIX_API int ravix_types_get_scan_results_response_copy(const ravix_get_scan_results_response_t *src,
                                                          ravix_get_scan_results_response_t *dest);

@@ -1,0 +1,235 @@
+// Bounded tables: a counted array of elements, allocated exactly to its count.
+//
+// Messages carry the source path of the table's family, allocations the path of this header; both carry lines of this
+// header.
+#pragma once
+
+#include "ravix_types_generic_simple.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+namespace zel::ravix {
+
+// Element type of a table.
+template <class T> using element_of = std::remove_pointer_t<decltype(T::data)>;
+
+// What the tables must know of an element type E. The default is for plain elements, which own nothing: copied and
+// compared as bytes. Others have clear, copy and compare, and tell which visits of their elements a table may save.
+template <class E> struct element {
+  using source = const E; // what `entry` points to
+  static constexpr bool is_plain = true;
+  // A copy overwrites every field, so that the elements to copy into need not be cleared.
+  static constexpr bool is_flat = true;
+  // Elements own memory or hold secrets, so that they are cleared before their array is released.
+  static constexpr bool clear_before_release = false;
+};
+
+template <class T>
+concept plain_table = element<element_of<T>>::is_plain;
+
+template <class T> using entry_of = typename element<element_of<T>>::source;
+
+namespace table {
+
+inline constexpr const char *source = "src/ravix_types_generic_table";
+
+// A table that has no array has no elements, whatever its count says.
+template <class T> std::uint32_t elements(const T &table) {
+  return table.data != nullptr ? table.count : 0;
+}
+
+} // namespace table
+
+template <class T> void generic_table_clear(T *table) {
+  if (table == nullptr || table->data == nullptr) {
+    return;
+  }
+  if constexpr (element<element_of<T>>::clear_before_release) {
+    for (std::uint32_t i = 0; i < table->count; ++i) {
+      element<element_of<T>>::clear(&table->data[i]);
+    }
+  }
+  table->count = 0;
+  slab_cbcontext_free(table->data, table::source, __LINE__);
+  table->data = nullptr;
+}
+
+// A table that is about to be copied into may leave its new elements zero-filled.
+template <class T, bool ClearNew = !plain_table<T>>
+int generic_table_init(T *table, unsigned count, const char *family) {
+  if (table == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "table");
+    return invalid_argument;
+  }
+  generic_table_clear(table);
+  table->count = 0;
+  if (count == 0) {
+    return success;
+  }
+  using E = element_of<T>;
+  table->data = static_cast<E *>(slab_dcalloc(count, sizeof(E), table::source, __LINE__));
+  if (table->data == nullptr) [[unlikely]] {
+    log_error(family, {"No memory available!"});
+    return out_of_memory;
+  }
+  table->count = count;
+  if constexpr (ClearNew) {
+    for (std::uint32_t i = 0; i < count; ++i) {
+      element<E>::clear(&table->data[i]);
+    }
+  }
+  return success;
+}
+
+template <class T> T *generic_table_create(unsigned count, const char *family) {
+  auto *table = static_cast<T *>(slab_dcalloc(1, sizeof(T), table::source, __LINE__));
+  if (table == nullptr) [[unlikely]] {
+    log_error(family, {"No memory available!"});
+    return nullptr;
+  }
+  if (generic_table_init(table, count, family) != success) [[unlikely]] {
+    log_error(family, {"Init error!"});
+    generic_table_clear(table);
+    slab_cbcontext_free(table, table::source, __LINE__);
+    return nullptr;
+  }
+  return table;
+}
+
+// Tests `src` before `dest`, unlike the copy of a record.
+template <class T> int generic_table_copy(const T *src, T *dest, const char *family) {
+  if (src == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "src");
+    return invalid_argument;
+  }
+  if (dest == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "dest");
+    return invalid_argument;
+  }
+  if (src == dest) {
+    return success;
+  }
+  using E = element_of<T>;
+  const std::uint32_t count = table::elements(*src);
+  if (const int code = generic_table_init<T, !element<E>::is_flat>(dest, count, family); code != success) [[unlikely]] {
+    log_error(family, {"Init error!"});
+    return code;
+  }
+  if constexpr (plain_table<T>) {
+    if (count != 0) {
+      std::memcpy(dest->data, src->data, count * sizeof(E));
+    }
+  } else {
+    for (std::uint32_t i = 0; i < count; ++i) {
+      if (const int code = element<E>::copy(&src->data[i], &dest->data[i]); code != success) [[unlikely]] {
+        log_error(family, {"Copy error!"});
+        generic_table_clear(dest);
+        return code;
+      }
+    }
+  }
+  return success;
+}
+
+template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, const char *family) {
+  if (table == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "table");
+    return invalid_argument;
+  }
+  if (entry == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "entry");
+    return invalid_argument;
+  }
+  if (table->count == UINT32_MAX) [[unlikely]] {
+    log_error(family, {"Maximum number of entries reached!"});
+    return invalid_argument;
+  }
+  using E = element_of<T>;
+  // The device's 32-bit arithmetic on every platform: the sum is tested for a wrap, the product deliberately is not.
+  const std::uint32_t old_size = table->count * static_cast<std::uint32_t>(sizeof(E));
+  const std::uint32_t new_size = old_size + static_cast<std::uint32_t>(sizeof(E));
+  if (new_size < old_size) [[unlikely]] {
+    log_error(family, {"Overflow would occur!"});
+    return invalid_argument;
+  }
+  // An entry of the table itself moves with the array.
+  const auto offset = reinterpret_cast<std::uintptr_t>(entry) - reinterpret_cast<std::uintptr_t>(table->data);
+  const bool entry_is_own = table->data != nullptr && offset < old_size;
+  auto *grown = static_cast<E *>(slab_drealloc(table->data, new_size, table::source, __LINE__));
+  if (grown == nullptr) [[unlikely]] {
+    log_error(family, {"No memory available!"});
+    return out_of_memory;
+  }
+  if (table->data == nullptr) {
+    std::memset(static_cast<void *>(grown), 0, new_size); // a count without an array says nothing of its elements
+  }
+  if (entry_is_own) {
+    entry = reinterpret_cast<entry_of<T> *>(reinterpret_cast<std::uintptr_t>(grown) + offset);
+  }
+  table->data = grown;
+  E *slot = &grown[table->count];
+  if constexpr (plain_table<T>) {
+    std::memcpy(slot, entry, sizeof(E));
+  } else {
+    std::memset(static_cast<void *>(slot), 0, sizeof(E));
+    if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
+      log_error(family, {"Copy error!"});
+      std::memset(static_cast<void *>(slot), 0, sizeof(E));
+      return code;
+    }
+  }
+  ++table->count;
+  return success;
+}
+
+template <class T> bool generic_table_contains_entry(const T *table, entry_of<T> *entry, const char *family) {
+  if (table == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "table");
+    return false;
+  }
+  if (entry == nullptr) [[unlikely]] {
+    log_invalid_pointer(family, "entry");
+    return false;
+  }
+  using E = element_of<T>;
+  const std::uint32_t count = table::elements(*table);
+  for (std::uint32_t i = 0; i < count; ++i) {
+    if constexpr (plain_table<T>) {
+      if (std::memcmp(&table->data[i], entry, sizeof(E)) == 0) {
+        return true;
+      }
+    } else if (element<E>::compare(&table->data[i], entry) == 0) {
+      return true;
+    }
+  }
+  return false;
+}
+
+// Orders two tables by their counts, then plain elements as bytes in memory order, others by the first that differs.
+template <class T> int generic_table_compare(const T *a, const T *b) {
+  if (a == nullptr || b == nullptr) {
+    return (a != nullptr) - (b != nullptr);
+  }
+  if (a->count != b->count) {
+    return a->count < b->count ? -1 : 1;
+  }
+  if (a->count == 0 || a->data == nullptr || b->data == nullptr) {
+    return (table::elements(*a) != 0) - (table::elements(*b) != 0);
+  }
+  using E = element_of<T>;
+  if constexpr (plain_table<T>) {
+    return std::memcmp(a->data, b->data, a->count * sizeof(E));
+  } else {
+    for (std::uint32_t i = 0; i < a->count; ++i) {
+      if (const int order = element<E>::compare(&a->data[i], &b->data[i]); order != 0) {
+        return order;
+      }
+    }
+    return 0;
+  }
+}
+
+} // namespace zel::ravix

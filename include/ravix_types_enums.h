@@ -91,14 +91,13 @@ enum ravix_channel_width {
 /** @name Channel capabilities
  *  What a radio can do on a channel. See ravix_str_channel_capabilities().
  *  @{ */
-#define RAVIX_CHANNEL_CAP_HT20 UINT32_C(0x01)  /**< 20 MHz wide. */
-#define RAVIX_CHANNEL_CAP_HT40 UINT32_C(0x02)  /**< 40 MHz wide. */
-#define RAVIX_CHANNEL_CAP_HT80 UINT32_C(0x04)  /**< 80 MHz wide. */
-#define RAVIX_CHANNEL_CAP_HT160 UINT32_C(0x10) /**< 160 MHz wide. */
-#define RAVIX_CHANNEL_CAP_HT320 UINT32_C(0x20) /**< 320 MHz wide. */
-#define RAVIX_CHANNEL_CAP_DFS UINT32_C(0x40)   /**< Radar detection is required before and during use. */
-#define RAVIX_CHANNEL_CAP_DFS_WEATHER                                                                                  \
-  UINT32_C(0x80) /**< Radar detection for weather radars (longer check) is required. */
+#define RAVIX_CHANNEL_CAP_HT20 UINT32_C(0x01)        /**< 20 MHz wide. */
+#define RAVIX_CHANNEL_CAP_HT40 UINT32_C(0x02)        /**< 40 MHz wide. */
+#define RAVIX_CHANNEL_CAP_HT80 UINT32_C(0x04)        /**< 80 MHz wide. */
+#define RAVIX_CHANNEL_CAP_HT160 UINT32_C(0x10)       /**< 160 MHz wide. */
+#define RAVIX_CHANNEL_CAP_HT320 UINT32_C(0x20)       /**< 320 MHz wide. */
+#define RAVIX_CHANNEL_CAP_DFS UINT32_C(0x40)         /**< Radar detection is required before and during use. */
+#define RAVIX_CHANNEL_CAP_DFS_WEATHER UINT32_C(0x80) /**< As DFS, with the longer check of weather radar channels. */
 /** @} */
 
 /** @name WLAN modes
@@ -123,11 +122,10 @@ enum ravix_channel_width {
 #define RAVIX_CHANNEL_STATE_DFS_CLEAR UINT32_C(0x010)   /**< DFS: checked and free of radar. */
 #define RAVIX_CHANNEL_STATE_RADAR_FOUND UINT32_C(0x020) /**< DFS: blocked, a radar was found. */
 #define RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND UINT32_C(0x040) /**< Disturbed by something that is not WLAN. */
-#define RAVIX_CHANNEL_STATE_DFS_RESERVED                                                                               \
-  UINT32_C(0x080) /**< DFS: without a name, so that it is never shown; allowed on DFS channels only. */
-#define RAVIX_CHANNEL_STATE_1_MINUTE_OFF UINT32_C(0x100)   /**< DFS: check of one minute needed before use. */
-#define RAVIX_CHANNEL_STATE_10_MINUTES_OFF UINT32_C(0x200) /**< DFS: check of ten minutes needed before use. */
-#define RAVIX_CHANNEL_STATE_PUNCTURED UINT32_C(0x400)      /**< Left out of the channel in use (802.11be puncturing). */
+#define RAVIX_CHANNEL_STATE_DFS_RESERVED UINT32_C(0x080)       /**< DFS: has no name and is never shown. */
+#define RAVIX_CHANNEL_STATE_1_MINUTE_OFF UINT32_C(0x100)       /**< DFS: check of one minute needed before use. */
+#define RAVIX_CHANNEL_STATE_10_MINUTES_OFF UINT32_C(0x200)     /**< DFS: check of ten minutes needed before use. */
+#define RAVIX_CHANNEL_STATE_PUNCTURED UINT32_C(0x400) /**< Left out of the channel in use (802.11be puncturing). */
 /** @} */
 
 /** @name Channel user flags

@@ -53,25 +53,25 @@ template <> struct record<ravix_tlv_t> {
 };
 
 template <> struct record<ravix_frequency_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_frequency_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_frequency_table)
   using T = ravix_frequency_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data, ravix_str_frequency}};
 };
 
 template <> struct record<ravix_id_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_id_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_id_table)
   using T = ravix_id_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data, ravix_str_id}};
 };
 
 template <> struct record<ravix_mac_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_mac_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_mac_table)
   using T = ravix_mac_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data, ravix_str_mac}};
 };
 
 template <> struct record<ravix_ssid_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_ssid_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_ssid_table)
   using T = ravix_ssid_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -89,13 +89,13 @@ template <> struct element<char *> {
 };
 
 template <> struct record<ravix_string_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_string_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_string_table)
   using T = ravix_string_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
 
 template <> struct record<ravix_tlv_table_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_types_tlv_table)
+  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_types_tlv_table)
   using T = ravix_tlv_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };

@@ -288,7 +288,6 @@ template <class R, std::size_t N> struct counted_bytes : plain_kind {
     }
     return std::memcmp(a.*octets, b.*octets, std::min<std::size_t>(a.*length, N));
   }
-  template <class Out> void print(Out &out, const R &r) const { out.value(r); }
 };
 
 // Zero-terminated text in an array of its own; the copy never fills the last character.
@@ -469,7 +468,6 @@ template <class R> struct owned_bytes : owning_kind {
     }
     return std::memcmp(&(a.*octets), &(b.*octets), std::min<std::size_t>(a.*length, sizeof(a.*octets)));
   }
-  template <class Out> void print(Out &out, const R &r) const { out.value(r); }
 };
 
 // The count and array of a table. Text is the formatter of plain elements; records have theirs.
@@ -515,7 +513,7 @@ template <class Kind> struct secret : Kind {
 
 // ---- exported operations, one line per record
 
-// Names the exported operations of a record or table; stands in its record<>.
+// Name the exported operations of a record or table; they stand in its record<>.
 #define RAVIX_OPERATIONS(NAME)                                                                                         \
   static constexpr auto &create = NAME##_create;                                                                       \
   static constexpr auto &clone = NAME##_clone;                                                                         \
@@ -524,6 +522,14 @@ template <class Kind> struct secret : Kind {
   static constexpr auto &free = NAME##_free;
 #define RAVIX_COMPARED_OPERATIONS(NAME)                                                                                \
   RAVIX_OPERATIONS(NAME)                                                                                               \
+  static constexpr auto &compare = NAME##_compare;
+#define RAVIX_TABLE_OPERATIONS(NAME)                                                                                   \
+  RAVIX_OPERATIONS(NAME)                                                                                               \
+  static constexpr auto &init = NAME##_init;                                                                           \
+  static constexpr auto &add_entry = NAME##_add_entry;
+#define RAVIX_COMPARED_TABLE_OPERATIONS(NAME)                                                                          \
+  RAVIX_TABLE_OPERATIONS(NAME)                                                                                         \
+  static constexpr auto &contains_entry = NAME##_contains_entry;                                                       \
   static constexpr auto &compare = NAME##_compare;
 
 // The macros below define exported operations in a family's source; `here` is that source's path. Functions, not

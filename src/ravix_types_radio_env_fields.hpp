@@ -30,7 +30,7 @@ template <> struct record<ravix_scan_entry_t> {
 };
 
 template <> struct record<ravix_scan_table_t> {
-  RAVIX_OPERATIONS(ravix_types_scan_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_scan_table)
   using T = ravix_scan_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -46,7 +46,7 @@ template <> struct record<ravix_noisefloor_entry_t> {
 };
 
 template <> struct record<ravix_noisefloor_table_t> {
-  RAVIX_OPERATIONS(ravix_types_noisefloor_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_noisefloor_table)
   using T = ravix_noisefloor_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -74,7 +74,7 @@ template <> struct record<ravix_channel_entry_t> {
 };
 
 template <> struct record<ravix_channel_list_t> {
-  RAVIX_OPERATIONS(ravix_types_channel_list)
+  RAVIX_TABLE_OPERATIONS(ravix_types_channel_list)
   using T = ravix_channel_list_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -89,7 +89,7 @@ template <> struct record<ravix_radio_load_entry_t> {
 };
 
 template <> struct record<ravix_radio_load_table_t> {
-  RAVIX_OPERATIONS(ravix_types_radio_load_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_radio_load_table)
   using T = ravix_radio_load_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -107,7 +107,7 @@ template <> struct record<ravix_radio_airtime_entry_t> {
 };
 
 template <> struct record<ravix_radio_airtime_table_t> {
-  RAVIX_OPERATIONS(ravix_types_radio_airtime_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_radio_airtime_table)
   using T = ravix_radio_airtime_table_t;
   static constexpr std::tuple fields{
       scalar{&T::airtime_base, "airtime_base"},

@@ -1,0 +1,350 @@
+// How records become text: the two layouts that follow from a field list (field lines and differences), tables, and the
+// stream that they are written to.
+#pragma once
+
+#include "ravix_types_common_fields.hpp"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <ostream>
+#include <string_view>
+#include <tuple>
+
+namespace zel::ravix {
+
+// Records that print as one short text. A key's text is fixed: its octets reach no output.
+inline const char *value_text(const ravix_channel_info_t &value) {
+  return ravix_str_channel_info(&value);
+}
+inline const char *value_text(const ravix_ip_addr_t &value) {
+  return ravix_str_ip_addr(&value);
+}
+inline const char *value_text(const ravix_ssid_t &value) {
+  return ravix_str_ssid(&value, true);
+}
+inline const char *value_text(const ravix_key_t & /*value*/) {
+  return "[SECRET]";
+}
+
+template <class T>
+concept value_record = requires(const T &value) {
+  value_text(value);
+};
+
+// Word that heads each entry of a table of records.
+template <class E> inline constexpr const char *heading = nullptr;
+template <> inline constexpr const char *heading<ravix_tlv_t> = "TLV";
+
+template <class T>
+concept table_record = has_record<T> && requires(const T &table) {
+  table.count;
+  table.data;
+};
+
+template <class T>
+concept record_table = table_record<T> && heading<element_of<T>>
+!= nullptr;
+
+// Difference of a field to a reference, as a difference print sees it.
+template <class Kind, class R> int field_difference(const Kind &field, const R &r, const R &ref) {
+  if constexpr (requires { field.difference(r, ref); }) {
+    return field.difference(r, ref);
+  } else {
+    return field.compare(r, ref);
+  }
+}
+
+// Collects text and writes it to a stream in pieces of some hundred characters, by unformatted output: the stream's own
+// format, width and locale neither show nor change. What a stream throws passes through.
+class printer {
+public:
+  explicit printer(std::ostream &stream) : stream_(stream) {}
+  printer(const printer &) = delete;
+  printer &operator=(const printer &) = delete;
+
+  // Writes what has been collected; every print ends with it.
+  void flush() {
+    stream_.write(buffer_.data(), static_cast<std::streamsize>(used_));
+    used_ = 0;
+  }
+
+  void text(std::string_view piece) {
+    while (piece.size() > buffer_.size() - used_) {
+      const std::size_t fitting = buffer_.size() - used_;
+      std::memcpy(&buffer_[used_], piece.data(), fitting);
+      used_ = buffer_.size();
+      piece.remove_prefix(fitting);
+      flush();
+    }
+    if (!piece.empty()) {
+      std::memcpy(&buffer_[used_], piece.data(), piece.size());
+      used_ += piece.size();
+    }
+  }
+
+  void blanks(std::size_t count) {
+    for (; count > 0; --count) {
+      text(" ");
+    }
+  }
+
+  void left(std::string_view piece, std::size_t width) {
+    text(piece);
+    blanks(width - std::min(width, piece.size()));
+  }
+
+  void right(std::string_view piece, std::size_t width) {
+    blanks(width - std::min(width, piece.size()));
+    text(piece);
+  }
+
+  void decimal(std::integral auto number, std::size_t width = 0) {
+    std::array<char, 24> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    right({digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+  }
+
+  void fixed(float number, int decimals, std::size_t width) {
+    std::array<char, 64> digits{};
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed, decimals).ptr;
+    right({digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+  }
+
+  // An address of somebody else's object.
+  void decimal(const void *pointer) {
+    if (pointer == nullptr) {
+      text(null_text);
+      return;
+    }
+    text("0x");
+    hex(reinterpret_cast<std::uintptr_t>(pointer), 1);
+  }
+
+  // Lower-case digits, at least as many as `width`.
+  void hex(std::uintptr_t number, std::size_t width) {
+    std::array<char, 2 * sizeof number> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+    const std::string_view piece(digits.data(), static_cast<std::size_t>(end - digits.data()));
+    for (std::size_t i = piece.size(); i < width; ++i) {
+      text("0");
+    }
+    text(piece);
+  }
+
+  void text_or_null(const char *piece) { text(piece != nullptr ? piece : null_text); }
+
+  template <value_record T> void value(const T &record) { text(value_text(record)); }
+
+  // " name: text" per field, separated by line breaks.
+  template <class R> void lines(const R &r) {
+    const char *separator = " ";
+    for_each_field<R>([&](const auto &field) {
+      text(separator);
+      text(field.name);
+      text(": ");
+      field.print(*this, r);
+      separator = "\n ";
+    });
+  }
+
+  // A table whose entries are headed "[WORD i]:" and printed by their field lines.
+  template <table_record T> void listed(const T &table) {
+    const std::uint32_t count = table::elements(table);
+    if (count == 0) {
+      text(no_entries);
+    }
+    for (std::uint32_t i = 0; i < count; ++i) {
+      text(i == 0 ? "" : "\n");
+      header<element_of<T>>(i);
+      lines(table.data[i]);
+    }
+  }
+
+  // A table of one line per entry under a header line; print_entry(entry) writes an entry's columns.
+  template <table_record T> void columns(std::string_view header_line, const T &table, auto print_entry) {
+    text(header_line);
+    const std::uint32_t count = table::elements(table);
+    if (count == 0) {
+      text(no_entries);
+    }
+    for (std::uint32_t i = 0; i < count; ++i) {
+      text(i == 0 ? "" : "\n");
+      index(i, count);
+      print_entry(table.data[i]);
+    }
+  }
+
+  // ---- difference prints: nothing for a value that equals its reference
+
+  template <class T> void diff(const T &value, const T *ref, const char *name, unsigned indent, bool newline) {
+    if (ref != nullptr && record<T>::compare(&value, ref) == 0) {
+      return;
+    }
+    if constexpr (value_record<T>) {
+      label(name, ": ", indent);
+      text(value_text(value));
+    } else {
+      if (name != nullptr) {
+        label(name, ":\n", indent);
+        ++indent;
+      }
+      if constexpr (!table_record<T> && !std::same_as<T, ravix_tlv_t>) {
+        diff_fields(value, ref, indent, newline);
+        return; // the last field has written the line's end
+      } else {
+        content(value, indent);
+      }
+    }
+    text(newline ? "\n" : "");
+  }
+
+  // A record that is owned by pointer; null shows as such where it tells something.
+  template <class T> void diff_pointee(const T *value, bool has_ref, const T *ref, const char *name, unsigned indent) {
+    if (value != nullptr) {
+      diff(*value, ref, name, indent, true);
+    } else if (!has_ref || ref != nullptr) {
+      label(name, ": ", indent);
+      text(null_text);
+      text("\n");
+    }
+  }
+
+  static constexpr const char *null_text = "<nullptr>";
+  static constexpr const char *no_entries = "-- no entries --";
+
+private:
+  // A log line stays short: longer tables are only named as such.
+  static constexpr std::uint32_t most_entries = 50;
+  // Tables of short texts share one line up to this number.
+  static constexpr std::uint32_t most_on_one_line = 5;
+
+  void label(const char *name, const char *after, unsigned indent) {
+    blanks(indent);
+    if (name != nullptr) {
+      text(name);
+      text(after);
+    }
+  }
+
+  void index(std::uint32_t i, std::uint32_t count) {
+    std::size_t width = 1;
+    for (std::uint32_t last = count - 1; last >= 10; last /= 10) {
+      ++width;
+    }
+    text("[");
+    decimal(i, width);
+    text("]: ");
+  }
+
+  template <class E> void header(std::uint32_t i) {
+    text("[");
+    text(heading<E>);
+    text(" ");
+    decimal(i);
+    text("]:\n");
+  }
+
+  template <class R> void diff_fields(const R &r, const R *ref, unsigned indent, bool newline) {
+    std::size_t left_over = std::tuple_size_v<decltype(record<R>::fields)>;
+    for_each_field<R>([&](const auto &field) { diff_field(field, r, ref, indent, --left_over != 0 || newline); });
+  }
+
+  template <class Kind, class R>
+  void diff_field(const Kind &field, const R &r, const R *ref, unsigned indent, bool newline) {
+    if constexpr (requires { field.print_diff(*this, r, ref, indent, newline); }) {
+      field.print_diff(*this, r, ref, indent, newline);
+    } else if (ref == nullptr || field_difference(field, r, *ref) != 0) {
+      label(field.name, ": ", indent);
+      field.print(*this, r);
+      text(newline ? "\n" : "");
+    }
+  }
+
+  // Type, length and a dump of 16 octets a row.
+  void content(const ravix_tlv_t &tlv, unsigned indent) {
+    constexpr std::size_t row = 16;
+    const std::size_t length = tlv.value != nullptr ? tlv.len : 0;
+    blanks(indent);
+    text("type: ");
+    decimal(tlv.type);
+    text(", length: ");
+    decimal(tlv.len);
+    for (std::size_t offset = 0; offset < length; offset += row) {
+      text("\n");
+      blanks(indent);
+      hex(offset, 8);
+      text(": ");
+      for (std::size_t i = offset; i < offset + row; ++i) {
+        if (i < length) {
+          hex(tlv.value[i], 2);
+          text(" ");
+        } else {
+          text("   ");
+        }
+      }
+    }
+  }
+
+  template <table_record T> void content(const T &table, unsigned indent) {
+    const std::uint32_t count = table::elements(table);
+    if (count == 0) {
+      blanks(indent);
+      text(no_entries);
+    } else if constexpr (record_table<T>) {
+      for (std::uint32_t i = 0; i < count; ++i) {
+        blanks(indent);
+        header<element_of<T>>(i);
+        diff<element_of<T>>(table.data[i], nullptr, nullptr, indent + 1, i + 1 < count);
+      }
+    } else if (count > most_entries) {
+      blanks(indent);
+      text("-- too many entries --");
+    } else if (std::integral<element_of<T>> && count <= most_on_one_line) {
+      blanks(indent);
+      for (std::uint32_t i = 0; i < count; ++i) {
+        text(i == 0 ? "" : ", ");
+        entry(table, i);
+      }
+    } else {
+      for (std::uint32_t i = 0; i < count; ++i) {
+        text(i == 0 ? "" : "\n");
+        blanks(indent);
+        index(i, count);
+        entry(table, i);
+      }
+    }
+  }
+
+  template <table_record T> void entry(const T &table, std::uint32_t i) {
+    const auto &element = table.data[i];
+    if constexpr (value_record<element_of<T>>) {
+      value(element);
+    } else if constexpr (std::same_as<element_of<T>, char *>) {
+      quoted(element);
+    } else {
+      text(std::get<0>(record<T>::fields).text(element));
+    }
+  }
+
+  void quoted(const char *piece) {
+    if (piece == nullptr) {
+      text(null_text);
+      return;
+    }
+    text("\"");
+    text(piece);
+    text("\"");
+  }
+
+  std::ostream &stream_;
+  std::array<char, 512> buffer_; // NOLINT(cppcoreguidelines-pro-type-member-init): only what is written is read
+  std::size_t used_ = 0;
+};
+
+} // namespace zel::ravix

@@ -4,13 +4,10 @@
 
 #include "ravix_types_common_fields.hpp"
 
-#include <algorithm>
 #include <array>
-#include <charconv>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <ostream>
 #include <string_view>
 #include <tuple>
@@ -68,74 +65,23 @@ public:
   printer &operator=(const printer &) = delete;
 
   // Writes what has been collected; every print ends with it.
-  void flush() {
-    stream_.write(buffer_.data(), static_cast<std::streamsize>(used_));
-    used_ = 0;
-  }
+  void flush();
 
-  void text(std::string_view piece) {
-    while (piece.size() > buffer_.size() - used_) {
-      const std::size_t fitting = buffer_.size() - used_;
-      std::memcpy(&buffer_[used_], piece.data(), fitting);
-      used_ = buffer_.size();
-      piece.remove_prefix(fitting);
-      flush();
-    }
-    if (!piece.empty()) {
-      std::memcpy(&buffer_[used_], piece.data(), piece.size());
-      used_ += piece.size();
+  void text(std::string_view piece);
+  void blanks(std::size_t count);
+  void left(std::string_view piece, std::size_t width);
+  void right(std::string_view piece, std::size_t width);
+
+  template <std::integral T> void decimal(T number, std::size_t width = 0) {
+    if constexpr (std::signed_integral<T>) {
+      signed_decimal(number, width);
+    } else {
+      unsigned_decimal(number, width);
     }
   }
-
-  void blanks(std::size_t count) {
-    for (; count > 0; --count) {
-      text(" ");
-    }
-  }
-
-  void left(std::string_view piece, std::size_t width) {
-    text(piece);
-    blanks(width - std::min(width, piece.size()));
-  }
-
-  void right(std::string_view piece, std::size_t width) {
-    blanks(width - std::min(width, piece.size()));
-    text(piece);
-  }
-
-  void decimal(std::integral auto number, std::size_t width = 0) {
-    std::array<char, 24> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    right({digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
-  }
-
-  void fixed(float number, int decimals, std::size_t width) {
-    std::array<char, 64> digits{};
-    const auto end =
-        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed, decimals).ptr;
-    right({digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
-  }
-
   // An address of somebody else's object.
-  void decimal(const void *pointer) {
-    if (pointer == nullptr) {
-      text(null_text);
-      return;
-    }
-    text("0x");
-    hex(reinterpret_cast<std::uintptr_t>(pointer), 1);
-  }
-
-  // Lower-case digits, at least as many as `width`.
-  void hex(std::uintptr_t number, std::size_t width) {
-    std::array<char, 2 * sizeof number> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
-    const std::string_view piece(digits.data(), static_cast<std::size_t>(end - digits.data()));
-    for (std::size_t i = piece.size(); i < width; ++i) {
-      text("0");
-    }
-    text(piece);
-  }
+  void decimal(const void *pointer);
+  void fixed(float number, int decimals, std::size_t width);
 
   void text_or_null(const char *piece) { text(piece != nullptr ? piece : null_text); }
 
@@ -161,7 +107,7 @@ public:
     }
     for (std::uint32_t i = 0; i < count; ++i) {
       text(i == 0 ? "" : "\n");
-      header<element_of<T>>(i);
+      header(heading<element_of<T>>, i);
       lines(table.data[i]);
     }
   }
@@ -224,31 +170,19 @@ private:
   // Tables of short texts share one line up to this number.
   static constexpr std::uint32_t most_on_one_line = 5;
 
-  void label(const char *name, const char *after, unsigned indent) {
-    blanks(indent);
-    if (name != nullptr) {
-      text(name);
-      text(after);
-    }
-  }
-
-  void index(std::uint32_t i, std::uint32_t count) {
-    std::size_t width = 1;
-    for (std::uint32_t last = count - 1; last >= 10; last /= 10) {
-      ++width;
-    }
-    text("[");
-    decimal(i, width);
-    text("]: ");
-  }
-
-  template <class E> void header(std::uint32_t i) {
-    text("[");
-    text(heading<E>);
-    text(" ");
-    decimal(i);
-    text("]:\n");
-  }
+  void signed_decimal(std::int64_t number, std::size_t width);
+  void unsigned_decimal(std::uint64_t number, std::size_t width);
+  // Lower-case digits, at least as many as `width`.
+  void hex(std::uintptr_t number, std::size_t width);
+  void quoted(const char *piece);
+  // Indentation and, unless it is null, the name and what follows it.
+  void label(const char *name, const char *after, unsigned indent);
+  // "[i]: ", aligned for a table of `count` entries.
+  void index(std::uint32_t i, std::uint32_t count);
+  // "[WORD i]:" and a line break.
+  void header(const char *word, std::uint32_t i);
+  // Type, length and a dump of 16 octets a row.
+  void content(const ravix_tlv_t &tlv, unsigned indent);
 
   template <class R> void diff_fields(const R &r, const R *ref, unsigned indent, bool newline) {
     std::size_t left_over = std::tuple_size_v<decltype(record<R>::fields)>;
@@ -266,31 +200,6 @@ private:
     }
   }
 
-  // Type, length and a dump of 16 octets a row.
-  void content(const ravix_tlv_t &tlv, unsigned indent) {
-    constexpr std::size_t row = 16;
-    const std::size_t length = tlv.value != nullptr ? tlv.len : 0;
-    blanks(indent);
-    text("type: ");
-    decimal(tlv.type);
-    text(", length: ");
-    decimal(tlv.len);
-    for (std::size_t offset = 0; offset < length; offset += row) {
-      text("\n");
-      blanks(indent);
-      hex(offset, 8);
-      text(": ");
-      for (std::size_t i = offset; i < offset + row; ++i) {
-        if (i < length) {
-          hex(tlv.value[i], 2);
-          text(" ");
-        } else {
-          text("   ");
-        }
-      }
-    }
-  }
-
   template <table_record T> void content(const T &table, unsigned indent) {
     const std::uint32_t count = table::elements(table);
     if (count == 0) {
@@ -299,7 +208,7 @@ private:
     } else if constexpr (record_table<T>) {
       for (std::uint32_t i = 0; i < count; ++i) {
         blanks(indent);
-        header<element_of<T>>(i);
+        header(heading<element_of<T>>, i);
         diff<element_of<T>>(table.data[i], nullptr, nullptr, indent + 1, i + 1 < count);
       }
     } else if (count > most_entries) {
@@ -330,16 +239,6 @@ private:
     } else {
       text(std::get<0>(record<T>::fields).text(element));
     }
-  }
-
-  void quoted(const char *piece) {
-    if (piece == nullptr) {
-      text(null_text);
-      return;
-    }
-    text("\"");
-    text(piece);
-    text("\"");
   }
 
   std::ostream &stream_;

@@ -1,0 +1,146 @@
+#include "ravix_types_print.hpp"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
+namespace zel::ravix {
+
+namespace {
+
+template <std::size_t Size, class... Arguments> struct digits {
+  char text[Size];
+  std::size_t size;
+
+  explicit digits(Arguments... arguments) { // NOLINT(cppcoreguidelines-pro-type-member-init): to_chars fills it
+    size = static_cast<std::size_t>(std::to_chars(text, text + Size, arguments...).ptr - text);
+  }
+  std::string_view view() const { return {text, size}; }
+};
+
+template <std::size_t Size, class... Arguments> digits<Size, Arguments...> digits_of(Arguments... arguments) {
+  return digits<Size, Arguments...>(arguments...);
+}
+
+} // namespace
+
+void printer::flush() {
+  stream_.write(buffer_.data(), static_cast<std::streamsize>(used_));
+  used_ = 0;
+}
+
+void printer::text(std::string_view piece) {
+  while (piece.size() > buffer_.size() - used_) {
+    const std::size_t fitting = buffer_.size() - used_;
+    std::memcpy(buffer_.data() + used_, piece.data(), fitting);
+    used_ = buffer_.size();
+    piece.remove_prefix(fitting);
+    flush();
+  }
+  std::memcpy(buffer_.data() + used_, piece.data(), piece.size());
+  used_ += piece.size();
+}
+
+void printer::blanks(std::size_t count) {
+  static constexpr std::string_view some = "                                                ";
+  for (; count > some.size(); count -= some.size()) {
+    text(some);
+  }
+  text(some.substr(0, count));
+}
+
+void printer::left(std::string_view piece, std::size_t width) {
+  text(piece);
+  blanks(width - std::min(width, piece.size()));
+}
+
+void printer::right(std::string_view piece, std::size_t width) {
+  blanks(width - std::min(width, piece.size()));
+  text(piece);
+}
+
+void printer::signed_decimal(std::int64_t number, std::size_t width) {
+  right(digits_of<24>(number).view(), width);
+}
+
+void printer::unsigned_decimal(std::uint64_t number, std::size_t width) {
+  right(digits_of<24>(number).view(), width);
+}
+
+void printer::decimal(const void *pointer) {
+  if (pointer == nullptr) {
+    text(null_text);
+    return;
+  }
+  text("0x");
+  hex(reinterpret_cast<std::uintptr_t>(pointer), 1);
+}
+
+void printer::fixed(float number, int decimals, std::size_t width) {
+  right(digits_of<64>(number, std::chars_format::fixed, decimals).view(), width);
+}
+
+void printer::hex(std::uintptr_t number, std::size_t width) {
+  const auto piece = digits_of<2 * sizeof number>(number, 16);
+  static constexpr std::string_view zeros = "00000000";
+  text(zeros.substr(0, width - std::min(width, piece.size)));
+  text(piece.view());
+}
+
+void printer::quoted(const char *piece) {
+  if (piece == nullptr) {
+    text(null_text);
+    return;
+  }
+  text("\"");
+  text(piece);
+  text("\"");
+}
+
+void printer::label(const char *name, const char *after, unsigned indent) {
+  blanks(indent);
+  if (name != nullptr) {
+    text(name);
+    text(after);
+  }
+}
+
+void printer::index(std::uint32_t i, std::uint32_t count) {
+  text("[");
+  decimal(i, digits_of<12>(count - 1).size);
+  text("]: ");
+}
+
+void printer::header(const char *word, std::uint32_t i) {
+  text("[");
+  text(word);
+  text(" ");
+  decimal(i);
+  text("]:\n");
+}
+
+void printer::content(const ravix_tlv_t &tlv, unsigned indent) {
+  constexpr std::size_t row = 16;
+  const std::size_t length = tlv.value != nullptr ? tlv.len : 0;
+  blanks(indent);
+  text("type: ");
+  decimal(tlv.type);
+  text(", length: ");
+  decimal(tlv.len);
+  for (std::size_t offset = 0; offset < length; offset += row) {
+    text("\n");
+    blanks(indent);
+    hex(offset, 8);
+    text(": ");
+    for (std::size_t i = offset; i < offset + row; ++i) {
+      if (i < length) {
+        hex(tlv.value[i], 2);
+        text(" ");
+      } else {
+        text("   ");
+      }
+    }
+  }
+}
+
+} // namespace zel::ravix

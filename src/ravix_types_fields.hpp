@@ -48,7 +48,7 @@ template <class R, class Predicate> constexpr bool all_fields(Predicate holds) {
   return std::apply([&](const auto &...field) { return (holds(field) && ...); }, record<R>::fields);
 }
 
-// What a failed copy of a field logs and returns; no message if it succeeded.
+// What a failed copy of a field logs and returns; without a message if the field has said what there is to say.
 struct failure {
   const char *message = nullptr;
   int code = success;
@@ -90,7 +90,7 @@ template <class R> int compare_fields(const R &a, const R &b) {
 // Copies the fields into a cleared record, up to the first that fails.
 template <class R> failure copy_fields(const R &src, R &dest, call_site site) {
   failure failed;
-  all_fields<R>([&](const auto &field) { return (failed = field.copy(src, dest, site)).message == nullptr; });
+  all_fields<R>([&](const auto &field) { return (failed = field.copy(src, dest, site)).code == success; });
   return failed;
 }
 
@@ -128,8 +128,10 @@ template <class R> int copy_or_clear(const R *src, R *dest, call_site site) {
   }
   record<R>::clear(dest);
   const failure failed = copy_fields(*src, *dest, site);
-  if (failed.message != nullptr) [[unlikely]] {
-    log_error(site, {failed.message});
+  if (failed.code != success) [[unlikely]] {
+    if (failed.message != nullptr) {
+      log_error(site, {failed.message});
+    }
     record<R>::clear(dest);
   }
   return failed.code;
@@ -327,7 +329,10 @@ template <class R, std::size_t N> struct enum_array : plain_kind {
   void clear(R &r, call_site /*site*/) const { std::memset(r.*member, 0, N); }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const { std::memcpy(dest.*member, src.*member, N); }
-  int compare(const R &a, const R &b) const { return std::memcmp(a.*member, b.*member, N); }
+  int compare(const R &a, const R &b) const {
+    const int order = std::memcmp(a.*member, b.*member, N);
+    return (order > 0) - (order < 0);
+  }
   template <class Out> void print(Out &out, const R &r) const {
     const char *separator = "";
     for (const std::uint8_t value : r.*member) {

@@ -1,0 +1,214 @@
+#include "text_input.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+namespace text {
+
+namespace {
+
+constexpr std::size_t most_input = std::size_t{64} << 20U;
+constexpr std::size_t most_line = 8192; // the tools' longest lines, dumps of unknown elements, have less than 1000
+constexpr std::size_t most_problems = 20;
+constexpr std::string_view blanks = " \t\r\v\f";
+
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+bool same_letter(char a, char b) {
+  return lower(a) == lower(b);
+}
+
+std::string_view without_bullet(std::string_view text) {
+  return text.starts_with("* ") ? trim(text.substr(2)) : text;
+}
+
+} // namespace
+
+bool problems::has_errors() const {
+  return std::any_of(list_.begin(), list_.end(), [](const problem &p) { return p.is_error; });
+}
+
+void problems::print(const char *program, const std::string &input_name) const {
+  auto ordered = list_;
+  std::stable_sort(ordered.begin(), ordered.end(), [](const problem &a, const problem &b) { return a.line < b.line; });
+  const auto shown = std::min(ordered.size(), most_problems);
+  for (std::size_t i = 0; i < shown; ++i) {
+    const auto &p = ordered[i];
+    std::cerr << program << ": " << (input_name == "-" ? "standard input" : input_name);
+    if (p.line != 0) {
+      std::cerr << ':' << p.line;
+    }
+    std::cerr << ": " << (p.is_error ? "" : "note: ") << p.message << '\n';
+  }
+  if (shown < ordered.size()) {
+    std::cerr << program << ": " << ordered.size() - shown << " more messages of this kind are not shown\n";
+  }
+}
+
+std::optional<std::string> read(const std::string &name, std::string &content) {
+  content.clear();
+  const auto close = [](std::FILE *f) { static_cast<void>(f == stdin || std::fclose(f) == 0); };
+  std::unique_ptr<std::FILE, decltype(close)> file(name == "-" ? stdin : std::fopen(name.c_str(), "rb"), close);
+  if (!file) {
+    return std::strerror(errno);
+  }
+  std::array<char, 65536> block{};
+  std::size_t got = 0;
+  while ((got = std::fread(block.data(), 1, block.size(), file.get())) > 0) {
+    content.append(block.data(), got);
+    if (content.size() > most_input) {
+      return "more than " + std::to_string(most_input >> 20U) + " MiB";
+    }
+  }
+  if (std::ferror(file.get()) != 0) {
+    return std::strerror(errno);
+  }
+  return std::nullopt;
+}
+
+std::string sample(const std::string &file_name) {
+  std::error_code ignored;
+  const auto program = std::filesystem::read_symlink("/proc/self/exe", ignored);
+  return (program.parent_path().parent_path() / "share" / "ravix_types" / file_name).string();
+}
+
+bool line_reader::next(line &out) {
+  while (at_ < text_.size()) {
+    ++number_;
+    const auto whole = text_.substr(at_, text_.find('\n', at_) - at_);
+    at_ += whole.size() + 1;
+    if (whole.size() > most_line) {
+      problems_.error(number_, "a line of " + std::to_string(whole.size()) + " bytes, ignored");
+      continue;
+    }
+    if (whole.find('\0') != std::string_view::npos) {
+      problems_.error(number_, "a line with NUL bytes, ignored");
+      continue;
+    }
+    out.number = number_;
+    out.content = without_bullet(trim(whole));
+    if (out.content.empty()) {
+      continue;
+    }
+    out.indent = whole.find_first_not_of(blanks);
+    const auto colon = out.content.find(": ");
+    out.key = out.content.substr(0, colon);
+    out.value = colon == std::string_view::npos ? std::string_view{} : trim(out.content.substr(colon + 2));
+    // A list may begin on the line of its heading: "RSN:<tab> * Version: 1".
+    if (const auto heading = out.content.find(":\t"); heading < colon) {
+      out.key = out.content.substr(0, heading);
+      out.value = without_bullet(trim(out.content.substr(heading + 2)));
+    }
+    if (out.key.ends_with(':')) {
+      out.key.remove_suffix(1);
+    }
+    return true;
+  }
+  return false;
+}
+
+bool line_reader::is_cut() const {
+  if (text_.empty() || text_.ends_with('\n')) {
+    return false;
+  }
+  const auto looks_like = [](std::string_view a, std::string_view b) {
+    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&](char x, char y) { return x == y || (is_digit(x) && is_digit(y)); });
+  };
+  auto rest = text_;
+  const auto last = trim(text_.substr(text_.rfind('\n') + 1));
+  while (rest.find('\n') != std::string_view::npos) {
+    if (looks_like(trim(split(rest, "\n")), last)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string_view trim(std::string_view text) {
+  const auto begin = text.find_first_not_of(blanks);
+  if (begin == std::string_view::npos) {
+    return {};
+  }
+  return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
+
+bool same(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), same_letter);
+}
+
+bool starts_with(std::string_view text, std::string_view beginning) {
+  return same(text.substr(0, beginning.size()), beginning);
+}
+
+bool contains(std::string_view text, std::string_view part) {
+  return std::search(text.begin(), text.end(), part.begin(), part.end(), same_letter) != text.end();
+}
+
+std::string_view split(std::string_view &text, std::string_view separator) {
+  const auto at = text.find(separator);
+  const auto piece = text.substr(0, at);
+  text.remove_prefix(at == std::string_view::npos ? text.size() : at + separator.size());
+  return piece;
+}
+
+std::optional<uint32_t> number(std::string_view text) {
+  const bool hex = starts_with(text, "0x");
+  text.remove_prefix(hex ? 2 : 0);
+  uint32_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, hex ? 16 : 10);
+  return error == std::errc{} ? std::optional(value) : std::nullopt;
+}
+
+std::optional<uint32_t> megahertz(std::string_view text) {
+  constexpr uint32_t most_mhz = 4'000'000;
+  const auto whole = number(text);
+  if (!whole || *whole > most_mhz || starts_with(text, "0x")) {
+    return std::nullopt;
+  }
+  auto khz = *whole * 1000;
+  const auto after = text.find_first_not_of("0123456789");
+  if (after != std::string_view::npos && text[after] == '.') {
+    uint32_t unit = 100;
+    for (const char c : text.substr(after + 1)) {
+      if (c < '0' || c > '9') {
+        break;
+      }
+      khz += static_cast<uint32_t>(c - '0') * unit;
+      unit /= 10;
+    }
+  }
+  return khz;
+}
+
+std::optional<double> decimal(std::string_view text) {
+  double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+  return error == std::errc{} && value > -1e6 && value < 1e6 ? std::optional(value) : std::nullopt;
+}
+
+std::string quote(std::string_view text) {
+  constexpr std::size_t most = 40;
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string out = "'";
+  for (const char c : text.substr(0, most)) {
+    if (c >= ' ' && c <= '~') {
+      out += c;
+    } else {
+      const auto octet = static_cast<unsigned char>(c);
+      out += {'\\', 'x', digits[octet >> 4U], digits[octet & 0xFU]};
+    }
+  }
+  return out + (text.size() > most ? "...'" : "'");
+}
+
+} // namespace text

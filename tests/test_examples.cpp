@@ -1,0 +1,282 @@
+// The example programs and their readers: what they make of good text, and what they say about bad text.
+#include "iw_scan.hpp"
+
+#include "ravix_types_enums.h"
+#include "ravix_types_str_convert.h"
+#include "ravix_types_util.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+
+namespace {
+
+std::string file_content(const std::string &name) {
+  std::ifstream file(name, std::ios::binary);
+  std::ostringstream out;
+  out << file.rdbuf();
+  return out.str();
+}
+
+const std::string sample_scan = RAVIX_EXAMPLE_DATA "/iw_scan_sample.txt";
+
+struct outcome {
+  int status = -1;
+  std::string output; // standard output and standard error
+};
+
+// Runs one of the programs.
+outcome run(const std::string &command_line) {
+  outcome result;
+  std::FILE *pipe = popen((RAVIX_EXAMPLE_PROGRAMS "/" + command_line + " 2>&1").c_str(), "r");
+  if (pipe == nullptr) {
+    return result;
+  }
+  std::array<char, 4096> block{};
+  while (const auto got = std::fread(block.data(), 1, block.size(), pipe)) {
+    result.output.append(block.data(), got);
+  }
+  const int status = pclose(pipe);
+  result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return result;
+}
+
+// "line: message", with "note: " before a remark.
+std::vector<std::string> texts(const text::problems &problems) {
+  std::vector<std::string> out;
+  for (const auto &p : problems.list()) {
+    out.push_back(std::to_string(p.line) + (p.is_error ? ": " : ": note: ") + p.message);
+  }
+  return out;
+}
+
+// The text of one network: what every network has, and the lines given.
+std::string network(const std::string &frequency, const std::string &more = "",
+                    const std::string &address = "02:00:00:00:00:01") {
+  return "BSS " + address + "(on wlan0)\n\tfreq: " + frequency + "\n\tsignal: -50.00 dBm\n\tSSID: net\n" + more;
+}
+
+TEST(IwScan, SampleIsListedAsRecorded) {
+  const auto listed = run("scan_report " + sample_scan);
+  EXPECT_EQ(listed.status, 0);
+  // The first line has the time of the run.
+  EXPECT_EQ(listed.output.substr(0, 11), "Scan time: ");
+  EXPECT_EQ(listed.output.substr(listed.output.find('\n') + 1), file_content(RAVIX_TEST_DATA "/scan_report.golden"));
+  EXPECT_EQ(run("scan_report").output.size(), listed.output.size());
+  EXPECT_EQ(run("scan_report - <" + sample_scan).output.size(), listed.output.size());
+}
+
+TEST(IwScan, ProgramKeepsNamesOutAndFiltersWhatIsAskedFor) {
+  const auto hidden = run("scan_report --hide-ssid " + sample_scan);
+  EXPECT_EQ(hidden.status, 0);
+  EXPECT_EQ(hidden.output.find("harbour"), std::string::npos);
+  EXPECT_NE(hidden.output.find("[BSSID|CHANNEL_INFO|RSSI|"), std::string::npos);
+  const auto some = run("scan_report --verbose --freq 5180,2437 --freq 6135 --ssid backhaul --ssid harbour-office");
+  EXPECT_EQ(some.status, 0);
+  EXPECT_NE(some.output.find("5180000 kHz, 2437000 kHz, 6135000 kHz"), std::string::npos);
+  EXPECT_NE(some.output.find("[1]: '02:00:5E:10:6D:0D'"), std::string::npos);
+  EXPECT_EQ(some.output.find("workshop"), std::string::npos);
+  EXPECT_EQ(run("scan_report --help").status, 0);
+  for (const auto *const bad :
+       {"--nonsense", "--freq 5181", "--freq", "--ssid 123456789012345678901234567890123", "a b"}) {
+    EXPECT_EQ(run(std::string("scan_report ") + bad).status, 2) << bad;
+  }
+}
+
+TEST(IwScan, ProgramSaysWhyAnInputIsNoScan) {
+  EXPECT_EQ(run("scan_report /nonexistent/scan").output,
+            "scan_report: /nonexistent/scan: cannot be read: No such file or directory\n");
+  EXPECT_EQ(run("scan_report /nonexistent/scan").status, 1);
+  EXPECT_EQ(run("scan_report /").output, "scan_report: /: cannot be read: Is a directory\n");
+  const auto empty = run("scan_report - </dev/null");
+  EXPECT_EQ(empty.status, 1);
+  EXPECT_EQ(empty.output.substr(0, empty.output.find('\n')), "scan_report: standard input:1: empty, so no scan");
+  const auto other = run("scan_report " RAVIX_EXAMPLE_DATA "/../CMakeLists.txt");
+  EXPECT_EQ(other.status, 1);
+  EXPECT_NE(other.output.find("CMakeLists.txt:1: not a scan: no line begins with \"BSS \"\n"), std::string::npos);
+  EXPECT_NE(other.output.find("-- no entries --"), std::string::npos);
+}
+
+// The channel that is made of the operation elements; "?": with a remark.
+TEST(IwScan, ChannelIsTheWidestThatTheElementsDescribe) {
+  const std::string ht = "\tHT capabilities:\n\t\tx\n\tHT operation:\n\t\t * secondary channel offset: ";
+  const auto vht = [&](const char *width, int first, int second) {
+    return ht + "above\n\tVHT operation:\n\t\t * channel width: " + width +
+           "\n\t\t * center freq segment 1: " + std::to_string(first) +
+           "\n\t\t * center freq segment 2: " + std::to_string(second) + "\n";
+  };
+  const auto six = [](const char *element, const char *width, int first, int second, const char *more = "") {
+    return std::string("\t") + element + " Operation:\n\t\tx\n\t\t\tChannel Width: " + width +
+           "\n\t\t\tCenter Frequency Segment 0: " + std::to_string(first) +
+           "\n\t\t\tCenter Frequency Segment 1: " + std::to_string(second) + "\n" + more;
+  };
+  const struct {
+    std::string frequency, elements, channel;
+  } cases[] = {
+      {"2412", "", "2412/2412/ 20/0000"},
+      {"2437.0", ht + "above\n", "2437/2447/ 40/0000"},
+      {"2437", ht + "below\n", "2437/2427/ 40/0000"},
+      {"2462", ht + "above\n", "?2462/2462/ 20/0000"}, // would end above the band
+      {"5180", ht + "above\n", "5180/5190/ 40/0000"},
+      {"5180", ht + "below\n", "?5180/5180/ 20/0000"},
+      {"5180", vht("0 (20 or 40 MHz)", 0, 0), "5180/5190/ 40/0000"},
+      {"5180", vht("1 (80 MHz)", 42, 0), "5180/5210/ 80/0000"},
+      {"5180", vht("1", 42, 0), "5180/5210/ 80/0000"},
+      {"5180", vht("1 (80 MHz)", 42, 50), "5180/5250/160/0000"},
+      {"5180", vht("1 (80 MHz)", 42, 155), "5180/5210/ 80/0000"}, // 80+80 MHz
+      {"5180", vht("3 (80+80 MHz)", 42, 155), "5180/5210/ 80/0000"},
+      {"5180", vht("2 (160 MHz)", 50, 0), "5180/5250/160/0000"},
+      {"5180", vht("1 (80 MHz)", 155, 0), "?5180/5190/ 40/0000"}, // not around this primary channel
+      {"5955", six("HE", "20 MHz", 1, 0), "5955/5955/ 20/0000"},
+      {"5975", six("HE", "80 MHz", 7, 0), "5975/5985/ 80/0000"},
+      {"5975", six("HE", "160 MHz", 7, 15), "5975/6025/160/0000"},
+      {"5975", six("HE", "3 (80+80 or 160 MHz)", 7, 15), "5975/6025/160/0000"},
+      {"5975", six("HE", "160 MHz", 15, 0), "5975/6025/160/0000"},
+      {"6135", six("HE", "160 MHz", 39, 47) + six("EHT", "320 MHz", 47, 31), "6135/6105/320/0000"},
+      {"6135", six("HE", "160 MHz", 39, 47) + six("EHT", "320 MHz", 47, 63), "6135/6265/320/0000"},
+      {"6135", six("HE", "160 MHz", 39, 47) + six("EHT", "320 MHz", 47, 95), "?6135/6185/160/0000"},
+      {"6135", six("HE", "80 MHz", 39, 0) + six("EHT", "160 MHz", 39, 47, "\t\tDisabled Subchannel Bitmap: 0x0030\n"),
+       "6135/6185/160/0030"},
+      {"6135", six("HE", "80 MHz", 39, 0) + six("EHT", "160 MHz", 39, 47, "\t\tDisabled Subchannel Bitmap: 0x0002\n"),
+       "?6135/6185/160/0000"}, // the primary channel is punctured
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.frequency + c.elements);
+    text::problems problems;
+    const auto scan = iw::read_scan(network(c.frequency, c.elements), problems);
+    ASSERT_EQ(scan.networks.size(), 1U);
+    EXPECT_FALSE(problems.has_errors());
+    const std::string made = ravix_str_channel_info(&scan.networks[0].channel_info);
+    EXPECT_EQ((problems.list().empty() ? "" : "?") + made.substr(0, made.rfind('/')), c.channel);
+    EXPECT_TRUE(ravix_channel_info_is_valid(&scan.networks[0].channel_info));
+  }
+}
+
+TEST(IwScan, BadBlocksAreToldByLineAndTheOthersKept) {
+  const auto good = network("2412", "", "02:00:00:00:00:aa");
+  const auto ht = std::string("\tHT capabilities:\n\t\tx\n");
+  const struct {
+    std::string text;
+    std::size_t networks;
+    std::string problem;
+  } cases[] = {
+      {good, 1, ""},
+      {"$ iw dev wlan0 scan\n" + good, 1, ""},
+      {good + "$ \n", 1, "5: note: BSS 02:00:00:00:00:aa: a line that is no part of a scan, ignored: '$'"},
+      {network("2413") + good, 1,
+       "2: BSS 02:00:00:00:00:01: no 2.4, 5 or 6 GHz channel at frequency '2413', network not listed"},
+      {network("58320") + good, 1,
+       "2: BSS 02:00:00:00:00:01: no 2.4, 5 or 6 GHz channel at frequency '58320', network not listed"},
+      {network("99999999999999999999") + good, 1,
+       "2: BSS 02:00:00:00:00:01: no 2.4, 5 or 6 GHz channel at frequency '99999999999999999999', network not listed"},
+      {network("2412", "", "02:00:00:00:00") + good, 1,
+       "1: 'BSS 02:00:00:00:00(on wlan0)' has no address, network not listed"},
+      {network("2412", "", "02:00:00:00:00:0g") + good, 1,
+       "1: 'BSS 02:00:00:00:00:0g(on wlan0)' has no address, network not listed"},
+      {network("2412", "", "02:00:00:xx:xx:01"), 1,
+       "1: note: BSS 02:00:00:xx:xx:01: masked digits of the address are read as 0"},
+      {"BSS 02:00:00:00:00:01(on wlan0)\n\tfreq: 2412\n" + good, 1,
+       "2: BSS 02:00:00:00:00:01: the block is cut: no SSID, network not listed"},
+      {good + "BSS 02:00:00:00:00:01(on wlan0)\n", 1,
+       "5: BSS 02:00:00:00:00:01: the block is cut: no frequency, network not listed"},
+      {good + network("2412").substr(32), 1,
+       "5: BSS 02:00:00:00:00:aa: a second frequency, so the line \"BSS ...\" of another network is missing, which is "
+       "not listed"},
+      {network("2412", ht) + good, 2,
+       "6: BSS 02:00:00:00:00:01: the block is cut here, listed with what is known until then"},
+      {good + network("2412", "\tHT operation:\n"), 2,
+       "9: BSS 02:00:00:00:00:01: the block is cut here, listed with what is known until then"},
+      {good + network("5180", "\tVHT capabilities:\n\t\tx\n"), 2,
+       "10: BSS 02:00:00:00:00:01: the block is cut here, listed with what is known until then"},
+      {good + network("2412", "\tWMM:\t * Param"), 2,
+       "9: BSS 02:00:00:00:00:01: the block is cut here, listed with what is known until then"},
+      {good + network("2412").substr(0, network("2412").size() - 1), 2, ""}, // only the last line end is lost
+      {good + "\tSSID: " + std::string(100000, 'a') + "\n", 1, "5: a line of 100007 bytes, ignored"},
+      {good + "\tx" + std::string(1, '\0') + "\n", 1, "5: a line with NUL bytes, ignored"},
+      {"BSS 02:00:00:00:00:01\n\tfreq: 2412\n\tSSID: 123456789012345678901234567890123\n" + good, 1,
+       "3: BSS 02:00:00:00:00:01: the SSID has more than 32 octets, network not listed"},
+      {"BSS 02:00:00:00:00:01\n\tfreq: 2412\n\tsignal: 47/100\n\tSSID: x\n", 1,
+       "3: note: BSS 02:00:00:00:00:01: signal '47/100' is not in dBm, taken as not known"},
+      {network("2412", ht + "\tHT operation:\n\t\t * primary channel: 3\n"), 1,
+       "8: note: BSS 02:00:00:00:00:01: HT operation has primary channel '3', but the frequency is that of channel 1, "
+       "which is taken"},
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.text.substr(0, 300));
+    text::problems problems;
+    const auto scan = iw::read_scan(c.text, problems);
+    EXPECT_EQ(scan.networks.size(), c.networks);
+    EXPECT_EQ(texts(problems), c.problem.empty() ? std::vector<std::string>{} : std::vector{c.problem});
+  }
+}
+
+TEST(IwScan, NamesSignalsAndSuitesAreReadAsPrinted) {
+  const auto read = [](const std::string &text) {
+    text::problems problems;
+    const auto scan = iw::read_scan(text, problems);
+    EXPECT_TRUE(problems.list().empty()) << texts(problems)[0];
+    return scan.networks.at(0);
+  };
+  const auto named = [&](const std::string &name) {
+    const auto entry = read("BSS 02:00:00:00:00:01\n\tfreq: 2412\n\tsignal: -50.50 dBm\n\tSSID: " + name + "\n");
+    EXPECT_EQ(entry.rssi, -51);
+    return std::string(entry.ssid.ssid, entry.ssid.ssid + entry.ssid.len);
+  };
+  EXPECT_EQ(named(""), "");
+  EXPECT_EQ(named(R"(\x20a\x5c b\x00\xfF\x20)"), std::string(" a\\ b\0\xFF ", 8));
+  EXPECT_EQ(named(R"(\x2 \xg0)"), R"(\x2 \xg0)");
+  EXPECT_EQ(named(std::string(31, 'a') + "\\x62").size(), 32U);
+  // A hidden network that answers with its name.
+  EXPECT_EQ(read("BSS 02:00:00:00:00:01\n\tfreq: 2412\n\tSSID: \n\tSSID: shown\n").ssid.len, 5);
+  EXPECT_EQ(read("BSS 02:00:00:00:00:01\n\tfreq: 2412\n\tSSID: shown\n").rssi, RAVIX_POWER_INVALID);
+
+  const struct {
+    const char *suites;
+    const char *capabilities;
+  } cases[] = {
+      {"PSK", "[ WPA2_PSK PRIVACY 2GHZ ]"},
+      {"PSK SAE", "[ WPA2_PSK WPA3_PSK PRIVACY 2GHZ ]"},
+      {"FT/PSK PSK/SHA-256", "[ WPA2_PSK PRIVACY 2GHZ FBT ]"},
+      {"IEEE 802.1X", "[ WPA2_ENT PRIVACY 2GHZ ]"},
+      {"FT/IEEE 802.1X IEEE 802.1X/SUITE-B-192", "[ WPA2_ENT PRIVACY 2GHZ FBT ]"},
+      {"00-0f-ac:24 FT/SAE", "[ WPA3_PSK PRIVACY 2GHZ FBT ]"},
+      {"OWE", "[ OWE PRIVACY 2GHZ ]"},
+      {"01-02-03:4", "[ PRIVACY 2GHZ ]"},
+  };
+  for (const auto &c : cases) {
+    const auto rsn = std::string("\tRSN:\t * Version: 1\n\t\t * Authentication suites: ") + c.suites + "\n";
+    EXPECT_STREQ(ravix_str_capabilities(read(network("2412", rsn)).capabilities), c.capabilities);
+    // Blanks for tabs, and line ends of another system.
+    auto other = network("2412", rsn);
+    for (std::size_t at = 0; (at = other.find_first_of("\t\n", at)) != std::string::npos; at += 4) {
+      other.replace(at, 1, other[at] == '\t' ? "    " : "  \r\n");
+    }
+    EXPECT_STREQ(ravix_str_capabilities(read(other).capabilities), c.capabilities);
+  }
+  const auto bits = read(network("2412", "\tcapability: ESS (0x1431)\n"));
+  EXPECT_STREQ(ravix_str_capabilities(bits.capabilities), "[ PRIVACY 2GHZ RRM ]");
+}
+
+TEST(IwScan, EveryCutOfTheSampleIsReadWithoutFaults) {
+  const auto whole = file_content(sample_scan);
+  text::problems none;
+  const auto all = iw::read_scan(whole, none);
+  ASSERT_EQ(all.networks.size(), 15U);
+  EXPECT_TRUE(none.list().empty());
+  for (std::size_t size = 0; size < whole.size(); size += 97) {
+    text::problems problems;
+    const auto scan = iw::read_scan(std::string_view(whole).substr(0, size), problems);
+    ASSERT_LE(scan.networks.size(), all.networks.size());
+    for (std::size_t i = 0; i < scan.networks.size(); ++i) {
+      ASSERT_EQ(scan.networks[i].channel_info.primary_freq, all.networks[i].channel_info.primary_freq);
+      ASSERT_TRUE(ravix_channel_info_is_valid(&scan.networks[i].channel_info)) << size;
+    }
+  }
+}
+
+} // namespace

@@ -30,9 +30,10 @@
  * - any other text that is not accepted: "Invalid parameter value '<text>'!"; `output` is 0.
  *
  * Only the first 127 characters of a text count. Numbers are decimal, without blanks, "+" or anything after them. Names
- * are those that the formatters print, in any letter case, sentinels ("invalid_max") included. A single digit is stored
- * as it is, whether or not the enumeration has that value. Parsers may be called from any thread, take no lock and do
- * not depend on the locale, except that names are compared after toupper().
+ * are those that the formatters print, in any letter case, sentinels ("invalid_max") included. In a parser that knows
+ * names a text that begins with "-" is a name, never a negative number. A single digit is stored as it is, even if it
+ * is no value of the enumeration (only ravix_enabled_from_str() refuses all but "0" and "1"). Parsers may be called
+ * from any thread, take no lock and do not depend on the locale.
  */
 #ifndef RAVIX_TYPES_STR_CONVERT_H
 #define RAVIX_TYPES_STR_CONVERT_H

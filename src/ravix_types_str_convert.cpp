@@ -38,8 +38,9 @@ bool is_null(const void *pointer, const char *argument, call_site site = here) {
 // --- Building texts ---
 
 // Publishes the text that `build` writes: it gets a place for at most `Most` characters and returns their end. The text
-// grows where it is to stay, unless the area's end is so near that it might not fit.
-template <std::size_t Most, class Build> const char *build_text(Build build) {
+// grows where it is to stay, unless the area's end is so near that it might not fit. Always
+// inlined, since out of line the values would have to be handed over through memory, at a sixth of the whole cost.
+template <std::size_t Most, class Build> [[gnu::always_inline]] inline const char *build_text(Build build) {
   const std::lock_guard lock(format_mutex);
   if (char *place = format_buffer.room_for(Most); place != nullptr) [[likely]] {
     format_buffer.advance_to(build(place));
@@ -86,43 +87,40 @@ constexpr auto digit_pairs = [] {
   return text;
 }();
 
+char *put_pair(char *out, std::uint32_t value) {
+  std::memcpy(out, &digit_pairs[std::size_t{2} * value], 2);
+  return out + 2;
+}
+
 char *put_number(char *out, std::uint32_t value) {
-  constexpr std::array<std::uint32_t, 10> powers = {0,      10,      100,      1000,      10000,
-                                                    100000, 1000000, 10000000, 100000000, 1000000000};
-  // 1233 / 4096 is a little more than log10(2), so this is the number of digits or one less.
-  const int estimate = std::bit_width(value | 1U) * 1233 >> 12;
-  char *end = out + estimate + (value >= powers[static_cast<unsigned>(estimate)] ? 1 : 0);
-  char *place = end;
-  while (value >= 100) {
-    place -= 2;
-    std::memcpy(place, &digit_pairs[value % 100 * 2], 2);
-    value /= 100;
+  if (value >= 10000) {
+    out = put_pair(put_number(out, value / 10000), value / 100 % 100);
+    return put_pair(out, value % 100);
   }
-  if (value >= 10) {
-    std::memcpy(out, &digit_pairs[value * 2], 2);
-  } else {
-    *out = static_cast<char>('0' + value);
+  if (value >= 100) {
+    out = put_number(out, value / 100);
+    return put_pair(out, value % 100);
   }
-  return end;
+  // Of a single digit the leading zero is overwritten: a branch on it would be guessed wrong too often.
+  *out = digit_pairs[std::size_t{2} * value];
+  out += value >= 10 ? 1 : 0;
+  *out = digit_pairs[std::size_t{2} * value + 1];
+  return out + 1;
 }
 
 char *put_number(char *out, std::int32_t value) {
-  auto magnitude = static_cast<std::uint32_t>(value);
-  if (value < 0) {
-    *out++ = '-';
-    magnitude = 0 - magnitude;
-  }
-  return put_number(out, magnitude);
+  const auto magnitude = static_cast<std::uint32_t>(value);
+  *out = '-';
+  out += value < 0 ? 1 : 0;
+  return put_number(out, value < 0 ? 0 - magnitude : magnitude);
 }
 
-// "%<width>u".
-char *put_padded(char *out, std::uint32_t value, std::ptrdiff_t width) {
-  char number[digits];
-  const char *end = put_number(number, value);
-  if (end - number < width) {
-    out = std::fill_n(out, width - (end - number), ' ');
-  }
-  return std::copy(static_cast<const char *>(number), end, out);
+// "%<Width>u".
+template <std::size_t Width> char *put_padded(char *out, std::uint32_t value) {
+  static_assert(Width == 3 || Width == 4);
+  std::memset(out, ' ', Width);
+  const std::size_t blanks = (value < 10) + (value < 100) + (Width == 4 && value < 1000);
+  return put_number(out + blanks, value);
 }
 
 constexpr char upper_hex[] = "0123456789ABCDEF";
@@ -134,13 +132,14 @@ char *put_hex(char *out, std::uint8_t octet, const char (&hex_digits)[17]) {
   return out;
 }
 
-// "%x", or "%04x" if `width` is 4.
-char *put_hex_number(char *out, unsigned value, unsigned width = 1) {
-  const unsigned used = (static_cast<unsigned>(std::bit_width(value)) + 3) / 4;
-  for (unsigned digit = std::max(used, width); digit-- > 0;) {
-    *out++ = lower_hex[value >> 4 * digit & 0xF];
+// "%x", or "%04x" if `zeros` are to be kept.
+char *put_hex_group(char *out, std::uint16_t value, bool zeros) {
+  for (int shift = 12; shift > 0; shift -= 4) {
+    *out = lower_hex[value >> shift & 0xF];
+    out += zeros || value >> shift != 0 ? 1 : 0;
   }
-  return out;
+  *out = lower_hex[value & 0xF];
+  return out + 1;
 }
 
 // Octets in upper case; a separator stands before the octets whose bits are set in `separated`.
@@ -272,9 +271,9 @@ const char *ravix_str_wifi_freq(uint32_t frequency) {
     return ravix_str_frequency(frequency);
   }
   return build_text<2 * digits + 7>([&](char *out) {
-    out = put_padded(out, frequency / 1000, 4);
+    out = put_padded<4>(out, frequency / 1000);
     out = put(out, " MHz (");
-    out = put_padded(out, channel, 3);
+    out = put_padded<3>(out, channel);
     return put(out, ")");
   });
 }
@@ -318,7 +317,8 @@ const char *ravix_str_index(int32_t index) {
 }
 
 const char *ravix_str_id(int32_t id) {
-  const char *name = find_name(id_names, id);
+  // None above 0 is reserved.
+  const char *name = id <= RAVIX_ID_INVALID ? find_name(id_names, id) : nullptr;
   return name != nullptr ? name : number_text(id);
 }
 
@@ -383,7 +383,7 @@ const char *ravix_str_ip_addr(const ravix_ip_addr_t *value) {
   case RAVIX_IP_VERSION_6:
     return build_text<8 * digits>([&](char *out) {
       for (unsigned i = 0; i < 16; i += 2) {
-        out = put_hex_number(out, uint32_t{octet[i]} << 8 | octet[i + 1]);
+        out = put_hex_group(out, static_cast<uint16_t>(octet[i] << 8 | octet[i + 1]), false);
         *out++ = ':';
       }
       return out - 1;
@@ -446,17 +446,17 @@ const char *ravix_str_channel_info(const ravix_channel_info_t *value) {
   ravix_channel_info_to_lowest_and_highest_channel(value, &lowest, &highest);
   const uint32_t width = ravix_channel_width_to_frequency(value->channel_width) / 1000;
   return build_text<6 * digits>([&](char *out) {
-    out = put_padded(out, value->primary_freq / 1000, 4);
+    out = put_padded<4>(out, value->primary_freq / 1000);
     *out++ = '/';
-    out = put_padded(out, value->center_freq / 1000, 4);
+    out = put_padded<4>(out, value->center_freq / 1000);
     *out++ = '/';
-    out = width != 0 ? put_padded(out, width, 3) : put(out, "INV");
+    out = width != 0 ? put_padded<3>(out, width) : put(out, "INV");
     *out++ = '/';
-    out = put_hex_number(out, value->puncture_map, 4);
+    out = put_hex_group(out, value->puncture_map, true);
     *out++ = '/';
-    out = put_padded(out, lowest, 3);
+    out = put_padded<3>(out, lowest);
     *out++ = '-';
-    return put_padded(out, highest, 3);
+    return put_padded<3>(out, highest);
   });
 }
 
@@ -588,8 +588,8 @@ std::optional<std::int64_t> parse(std::string_view text, const accepted_values &
 
 // Every parser of numbers and names; the lines are logged under its own name unless the caller states another.
 template <class Output>
-bool ravix_numval_from_str(const char *str_param, Output *output, const accepted_values &accepted,
-                           call_site site = {here, "ravix_numval_from_str"}) {
+[[gnu::noinline]] bool ravix_numval_from_str(const char *str_param, Output *output, const accepted_values &accepted,
+                                             call_site site = {here, "ravix_numval_from_str"}) {
   if (is_null(str_param, "str_param", site) || is_null(output, "output", site)) {
     return false;
   }
@@ -611,12 +611,13 @@ constexpr accepted_values named_values(const value_list &names) {
   return {INT32_MIN, INT32_MAX, names, true};
 }
 
+constexpr std::uint8_t no_hex_digit = UINT8_MAX;
 constexpr auto hex_values = [] {
-  std::array<std::int8_t, UCHAR_MAX + 1> values{};
-  values.fill(-1);
-  for (unsigned i = 0; i < 16; ++i) {
-    values[static_cast<unsigned char>(upper_hex[i])] = static_cast<std::int8_t>(i);
-    values[static_cast<unsigned char>(lower_hex[i])] = static_cast<std::int8_t>(i);
+  std::array<std::uint8_t, UCHAR_MAX + 1> values{};
+  values.fill(no_hex_digit);
+  for (std::uint8_t i = 0; i < 16; ++i) {
+    values[static_cast<unsigned char>(upper_hex[i])] = i;
+    values[static_cast<unsigned char>(lower_hex[i])] = i;
   }
   return values;
 }();
@@ -629,12 +630,12 @@ bool read_octets(const char *text, unsigned separated, char separator, std::uint
     if ((separated >> i & 1U) != 0 && *text++ != separator) {
       return false;
     }
-    const int high = hex_values[static_cast<unsigned char>(*text)];
-    if (high < 0) {
+    const std::uint8_t high = hex_values[static_cast<unsigned char>(*text)];
+    if (high == no_hex_digit) {
       return false;
     }
-    const int low = hex_values[static_cast<unsigned char>(text[1])];
-    if (low < 0) {
+    const std::uint8_t low = hex_values[static_cast<unsigned char>(text[1])];
+    if (low == no_hex_digit) {
       return false;
     }
     octets[i] = static_cast<std::uint8_t>(high << 4 | low);
@@ -668,7 +669,7 @@ bool ravix_uuid_from_str(const char *str_param, uint8_t *output) {
     return false;
   }
   return read_octets<RAVIX_UUID_LEN>(str_param, uuid_separated, '-', output) ||
-         std::sscanf(str_param,
+         std::sscanf(str_param, // NOLINT(cert-err34-c): how it reads unusual text is part of the interface
                      "%02hhx%02hhx%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-"
                      "%02hhx%02hhx%02hhx%02hhx%02hhx%02hhx",
                      &output[0], &output[1], &output[2], &output[3], &output[4], &output[5], &output[6], &output[7],

@@ -48,7 +48,7 @@ bool ring_buffer::try_vwrite(const char *format, va_list args) noexcept {
   return place([&](char *to, std::size_t room) -> std::ptrdiff_t {
     va_list again;
     va_copy(again, args);
-    const int length = std::vsnprintf(to, room, format, again);
+    const int length = std::vsnprintf(to, room, format, again); // NOLINT(clang-analyzer-valist.Uninitialized): copied
     va_end(again);
     return length;
   });

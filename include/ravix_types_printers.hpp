@@ -14,6 +14,7 @@
 #define RAVIX_TYPES_PRINTERS_HPP
 
 #include "ravix_types_api_request.h"
+#include "ravix_types_cfg.h"
 #include "ravix_types_common.h"
 #include "ravix_types_radio_env.h"
 
@@ -114,6 +115,73 @@ RAVIX_API void print_diff(std::ostream &os, const ravix_string_table_t &value, c
                           const char *name, unsigned indent, bool newline);
 RAVIX_API void print_diff(std::ostream &os, const ravix_tlv_table_t &value, const ravix_tlv_table_t *reference,
                           const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_debug_settings_t &value,
+                          const ravix_cfg_debug_settings_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_meshd_settings_t &value,
+                          const ravix_cfg_meshd_settings_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_time_control_t &value,
+                          const ravix_cfg_time_control_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_repeating_t &value, const ravix_cfg_repeating_t *reference,
+                          const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_access_control_settings_t &value,
+                          const ravix_cfg_access_control_settings_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_global_settings_t &value,
+                          const ravix_cfg_global_settings_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_auto_update_role_opmode_t &value,
+                          const ravix_cfg_auto_update_role_opmode_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_auto_update_feature_t &value,
+                          const ravix_cfg_auto_update_feature_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_auto_update_rule_t &value,
+                          const ravix_cfg_auto_update_rule_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_hardware_static_t &value,
+                          const ravix_cfg_hardware_static_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_radio_static_t &value,
+                          const ravix_cfg_radio_static_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_radio_dynamic_t &value,
+                          const ravix_cfg_radio_dynamic_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_wlan_wps_t &value, const ravix_cfg_wlan_wps_t *reference,
+                          const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_radius_server_t &value,
+                          const ravix_cfg_radius_server_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_radius_server_table_t &value,
+                          const ravix_cfg_radius_server_table_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_wlan_security_t &value,
+                          const ravix_cfg_wlan_security_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_security_extended_t &value,
+                          const ravix_cfg_security_extended_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_security_extended_table_t &value,
+                          const ravix_cfg_security_extended_table_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_access_control_t &value,
+                          const ravix_cfg_role_access_control_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_ap_time_control_t &value,
+                          const ravix_cfg_role_ap_time_control_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_config_ap_t &value,
+                          const ravix_cfg_role_config_ap_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_config_sta_uplink_t &value,
+                          const ravix_cfg_role_config_sta_uplink_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_config_sta_t &value,
+                          const ravix_cfg_role_config_sta_t *reference, const char *name, unsigned indent,
+                          bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_static_t &value,
+                          const ravix_cfg_role_static_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_owe_transition_t &value,
+                          const ravix_cfg_owe_transition_t *reference, const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_mld_t &value, const ravix_cfg_mld_t *reference,
+                          const char *name, unsigned indent, bool newline);
+RAVIX_API void print_diff(std::ostream &os, const ravix_cfg_role_dynamic_t &value,
+                          const ravix_cfg_role_dynamic_t *reference, const char *name, unsigned indent, bool newline);
 /** @} */
 
 /** @} */

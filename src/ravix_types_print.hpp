@@ -2,6 +2,7 @@
 // stream that they are written to.
 #pragma once
 
+#include "ravix_types_cfg.h"
 #include "ravix_types_common_fields.hpp"
 
 #include <array>
@@ -36,6 +37,8 @@ concept value_record = requires(const T &value) {
 // Word that heads each entry of a table of records.
 template <class E> inline constexpr const char *heading = nullptr;
 template <> inline constexpr const char *heading<ravix_tlv_t> = "TLV";
+template <> inline constexpr const char *heading<ravix_cfg_radius_server_t> = "RADIUS SERVER";
+template <> inline constexpr const char *heading<ravix_cfg_security_extended_t> = "SECURITY EXTENDED";
 
 template <class T>
 concept table_record = has_record<T> && requires(const T &table) {

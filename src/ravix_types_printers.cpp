@@ -1,6 +1,7 @@
 #include "ravix_types_printers.hpp"
 
 #include "ravix_types_api_request_fields.hpp"
+#include "ravix_types_cfg_fields.hpp"
 #include "ravix_types_print.hpp"
 
 namespace {
@@ -209,3 +210,30 @@ RAVIX_PRINT_DIFF(ravix_mac_table_t)
 RAVIX_PRINT_DIFF(ravix_ssid_table_t)
 RAVIX_PRINT_DIFF(ravix_string_table_t)
 RAVIX_PRINT_DIFF(ravix_tlv_table_t)
+RAVIX_PRINT_DIFF(ravix_cfg_debug_settings_t)
+RAVIX_PRINT_DIFF(ravix_cfg_meshd_settings_t)
+RAVIX_PRINT_DIFF(ravix_cfg_time_control_t)
+RAVIX_PRINT_DIFF(ravix_cfg_repeating_t)
+RAVIX_PRINT_DIFF(ravix_cfg_access_control_settings_t)
+RAVIX_PRINT_DIFF(ravix_cfg_global_settings_t)
+RAVIX_PRINT_DIFF(ravix_cfg_auto_update_role_opmode_t)
+RAVIX_PRINT_DIFF(ravix_cfg_auto_update_feature_t)
+RAVIX_PRINT_DIFF(ravix_cfg_auto_update_rule_t)
+RAVIX_PRINT_DIFF(ravix_cfg_hardware_static_t)
+RAVIX_PRINT_DIFF(ravix_cfg_radio_static_t)
+RAVIX_PRINT_DIFF(ravix_cfg_radio_dynamic_t)
+RAVIX_PRINT_DIFF(ravix_cfg_wlan_wps_t)
+RAVIX_PRINT_DIFF(ravix_cfg_radius_server_t)
+RAVIX_PRINT_DIFF(ravix_cfg_radius_server_table_t)
+RAVIX_PRINT_DIFF(ravix_cfg_wlan_security_t)
+RAVIX_PRINT_DIFF(ravix_cfg_security_extended_t)
+RAVIX_PRINT_DIFF(ravix_cfg_security_extended_table_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_access_control_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_ap_time_control_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_config_ap_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_config_sta_uplink_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_config_sta_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_static_t)
+RAVIX_PRINT_DIFF(ravix_cfg_owe_transition_t)
+RAVIX_PRINT_DIFF(ravix_cfg_mld_t)
+RAVIX_PRINT_DIFF(ravix_cfg_role_dynamic_t)

@@ -1,7 +1,7 @@
 // Bounded tables: a counted array of elements, allocated exactly to its count.
 //
 // Messages carry the source path of the table's family, allocations the path of this header; both carry lines of this
-// header.
+// header. The function is named by __func__: a captured name of a template would carry its arguments.
 #pragma once
 
 #include "ravix_types_generic_simple.hpp"
@@ -61,7 +61,7 @@ template <class T> void generic_table_clear(T *table) {
 template <class T, bool ClearNew = !plain_table<T>>
 int generic_table_init(T *table, unsigned count, const char *family) {
   if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "table");
+    log_invalid_pointer({family, __func__}, "table");
     return invalid_argument;
   }
   generic_table_clear(table);
@@ -72,7 +72,7 @@ int generic_table_init(T *table, unsigned count, const char *family) {
   using E = element_of<T>;
   table->data = static_cast<E *>(slab_dcalloc(count, sizeof(E), table::source, __LINE__));
   if (table->data == nullptr) [[unlikely]] {
-    log_error(family, {"No memory available!"});
+    log_error({family, __func__}, {"No memory available!"});
     return out_of_memory;
   }
   table->count = count;
@@ -87,11 +87,11 @@ int generic_table_init(T *table, unsigned count, const char *family) {
 template <class T> T *generic_table_create(unsigned count, const char *family) {
   auto *table = static_cast<T *>(slab_dcalloc(1, sizeof(T), table::source, __LINE__));
   if (table == nullptr) [[unlikely]] {
-    log_error(family, {"No memory available!"});
+    log_error({family, __func__}, {"No memory available!"});
     return nullptr;
   }
   if (generic_table_init(table, count, family) != success) [[unlikely]] {
-    log_error(family, {"Init error!"});
+    log_error({family, __func__}, {"Init error!"});
     generic_table_clear(table);
     slab_cbcontext_free(table, table::source, __LINE__);
     return nullptr;
@@ -102,11 +102,11 @@ template <class T> T *generic_table_create(unsigned count, const char *family) {
 // Tests `src` before `dest`, unlike the copy of a record.
 template <class T> int generic_table_copy(const T *src, T *dest, const char *family) {
   if (src == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "src");
+    log_invalid_pointer({family, __func__}, "src");
     return invalid_argument;
   }
   if (dest == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "dest");
+    log_invalid_pointer({family, __func__}, "dest");
     return invalid_argument;
   }
   if (src == dest) {
@@ -115,7 +115,7 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*src);
   if (const int code = generic_table_init<T, !element<E>::is_flat>(dest, count, family); code != success) [[unlikely]] {
-    log_error(family, {"Init error!"});
+    log_error({family, __func__}, {"Init error!"});
     return code;
   }
   if constexpr (plain_table<T>) {
@@ -125,7 +125,7 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   } else {
     for (std::uint32_t i = 0; i < count; ++i) {
       if (const int code = element<E>::copy(&src->data[i], &dest->data[i]); code != success) [[unlikely]] {
-        log_error(family, {"Copy error!"});
+        log_error({family, __func__}, {"Copy error!"});
         generic_table_clear(dest);
         return code;
       }
@@ -136,15 +136,15 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
 
 template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, const char *family) {
   if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "table");
+    log_invalid_pointer({family, __func__}, "table");
     return invalid_argument;
   }
   if (entry == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "entry");
+    log_invalid_pointer({family, __func__}, "entry");
     return invalid_argument;
   }
   if (table->count == UINT32_MAX) [[unlikely]] {
-    log_error(family, {"Maximum number of entries reached!"});
+    log_error({family, __func__}, {"Maximum number of entries reached!"});
     return invalid_argument;
   }
   using E = element_of<T>;
@@ -152,7 +152,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   const std::uint32_t old_size = table->count * static_cast<std::uint32_t>(sizeof(E));
   const std::uint32_t new_size = old_size + static_cast<std::uint32_t>(sizeof(E));
   if (new_size < old_size) [[unlikely]] {
-    log_error(family, {"Overflow would occur!"});
+    log_error({family, __func__}, {"Overflow would occur!"});
     return invalid_argument;
   }
   // An entry of the table itself moves with the array.
@@ -160,7 +160,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   const bool entry_is_own = table->data != nullptr && offset < old_size;
   auto *grown = static_cast<E *>(slab_drealloc(table->data, new_size, table::source, __LINE__));
   if (grown == nullptr) [[unlikely]] {
-    log_error(family, {"No memory available!"});
+    log_error({family, __func__}, {"No memory available!"});
     return out_of_memory;
   }
   if (table->data == nullptr) {
@@ -176,7 +176,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   } else {
     std::memset(static_cast<void *>(slot), 0, sizeof(E));
     if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
-      log_error(family, {"Copy error!"});
+      log_error({family, __func__}, {"Copy error!"});
       std::memset(static_cast<void *>(slot), 0, sizeof(E));
       return code;
     }
@@ -187,11 +187,11 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
 
 template <class T> bool generic_table_contains_entry(const T *table, entry_of<T> *entry, const char *family) {
   if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "table");
+    log_invalid_pointer({family, __func__}, "table");
     return false;
   }
   if (entry == nullptr) [[unlikely]] {
-    log_invalid_pointer(family, "entry");
+    log_invalid_pointer({family, __func__}, "entry");
     return false;
   }
   using E = element_of<T>;

@@ -1,0 +1,33 @@
+// Every record and table type of the library. A new one is one line here; the properties of test_records.cpp then hold
+// for it.
+#pragma once
+
+#include "ravix_types_api_request_fields.hpp"
+#include "ravix_types_common_fields.hpp"
+#include "ravix_types_radio_env_fields.hpp"
+
+namespace harness {
+
+template <class... R> struct type_list {};
+
+using all_records = type_list<
+    // common values
+    ravix_channel_info_t, ravix_ip_addr_t, ravix_key_t, ravix_ssid_t, ravix_tlv_t, ravix_frequency_table_t,
+    ravix_id_table_t, ravix_mac_table_t, ravix_ssid_table_t, ravix_string_table_t, ravix_tlv_table_t,
+    // radio environment
+    ravix_scan_parameter_t, ravix_scan_entry_t, ravix_scan_table_t, ravix_scan_results_t, ravix_noisefloor_entry_t,
+    ravix_noisefloor_table_t, ravix_channel_entry_t, ravix_channel_list_t, ravix_radio_load_entry_t,
+    ravix_radio_load_table_t, ravix_radio_airtime_entry_t, ravix_radio_airtime_table_t,
+    // requests and responses
+    ravix_start_scan_request_t, ravix_start_scan_response_t, ravix_get_scan_results_request_t,
+    ravix_get_scan_results_response_t>;
+
+// Records whose values are never equal to a copy of them: they compare the references to their memory.
+template <class R> inline constexpr bool compares_references = false;
+template <> inline constexpr bool compares_references<ravix_tlv_t> = true;
+template <> inline constexpr bool compares_references<ravix_tlv_table_t> = true;
+
+// Records whose copy reports success when no memory is left for a text, and tables of them.
+template <class R> inline constexpr bool copies_leniently = false;
+
+} // namespace harness

@@ -1,0 +1,194 @@
+// Records at random, and what it means that two are alike, by way of their field lists.
+#pragma once
+
+#include "ravix_types_common_fields.hpp"
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <random>
+#include <string>
+#include <type_traits>
+
+namespace harness {
+
+using zel::ravix::has_record;
+using zel::ravix::record;
+
+class randomness {
+public:
+  explicit randomness(unsigned seed) : engine_(seed) {}
+
+  // Evenly from 0 to `most`.
+  std::uint32_t up_to(std::uint32_t most) { return std::uniform_int_distribution<std::uint32_t>(0, most)(engine_); }
+  bool once_in(std::uint32_t n) { return up_to(n - 1) == 0; }
+
+  void bytes(void *memory, std::size_t size) {
+    for (std::size_t i = 0; i < size; ++i) {
+      static_cast<unsigned char *>(memory)[i] = static_cast<unsigned char>(up_to(255));
+    }
+  }
+
+  std::string word(std::size_t longest) {
+    std::string text(up_to(static_cast<std::uint32_t>(longest)), ' ');
+    for (char &character : text) {
+      character = static_cast<char>('a' + up_to(25));
+    }
+    return text;
+  }
+
+private:
+  std::mt19937 engine_;
+};
+
+template <has_record R> void fill(R &r, randomness &random);
+
+// Gives a field a random value. The record is empty, or the field plain.
+template <class R, class T, class Text>
+void fill(const zel::ravix::scalar<R, T, Text> &field, R &r, randomness &random) {
+  if constexpr (std::is_same_v<T, bool>) {
+    r.*field.member = random.once_in(2);
+  } else if constexpr (std::is_floating_point_v<T>) {
+    r.*field.member = static_cast<T>(random.up_to(10000)) / T{8};
+  } else {
+    random.bytes(&(r.*field.member), sizeof(T));
+  }
+}
+template <class R, std::size_t N> void fill(const zel::ravix::bytes<R, N> &field, R &r, randomness &random) {
+  random.bytes(r.*field.member, N);
+}
+template <class R, std::size_t N> void fill(const zel::ravix::enum_array<R, N> &field, R &r, randomness &random) {
+  random.bytes(r.*field.member, N);
+}
+template <class R, std::size_t N> void fill(const zel::ravix::bounded_text<R, N> &field, R &r, randomness &random) {
+  std::memset(r.*field.member, 0, N);
+  const std::string text = random.word(N - 1);
+  std::memcpy(r.*field.member, text.data(), text.size());
+}
+template <class R, std::size_t N> void fill(const zel::ravix::counted_bytes<R, N> &field, R &r, randomness &random) {
+  r.*field.length = static_cast<std::uint8_t>(random.up_to(N - 1));
+  std::memset(r.*field.octets, 0, N);
+  random.bytes(r.*field.octets, r.*field.length);
+}
+template <class R, class T> void fill(const zel::ravix::nested<R, T> &field, R &r, randomness &random) {
+  fill(r.*field.member, random);
+}
+template <class R, class T> void fill(const zel::ravix::owned<R, T> &field, R &r, randomness &random) {
+  if (!random.once_in(4)) {
+    r.*field.member = record<T>::create();
+    fill(*(r.*field.member), random);
+  }
+}
+inline char *random_text(randomness &random) {
+  return random.once_in(4) ? nullptr : slab_dstrdup(random.word(40).c_str(), "tests", __LINE__);
+}
+template <class R> void fill(const zel::ravix::owned_text<R> &field, R &r, randomness &random) {
+  r.*field.member = random_text(random);
+}
+template <class R> void fill(const zel::ravix::owned_bytes<R> &field, R &r, randomness &random) {
+  if (random.once_in(4)) {
+    return;
+  }
+  r.*field.length = static_cast<std::uint8_t>(1 + random.up_to(254));
+  r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
+  random.bytes(r.*field.octets, r.*field.length);
+}
+template <class E> void fill_element(E &element, randomness &random) {
+  if constexpr (has_record<E>) {
+    fill(element, random);
+  } else if constexpr (std::is_same_v<E, char *>) {
+    element = random_text(random);
+  } else {
+    random.bytes(&element, sizeof element);
+  }
+}
+template <class T, class E, class Text>
+void fill(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
+  record<T>::init(&table, random.up_to(3));
+  for (std::uint32_t i = 0; i < table.count; ++i) {
+    fill_element(table.data[i], random);
+  }
+}
+
+// Makes a random record one that its own rules accept.
+template <class R> void settle(R & /*r*/, randomness & /*random*/) {}
+inline void settle(ravix_ip_addr_t &address, randomness &random) {
+  address.version = static_cast<std::uint8_t>(1 + random.up_to(1));
+}
+
+// Fills an empty record.
+template <has_record R> void fill(R &r, randomness &random) {
+  zel::ravix::for_each_field<R>([&](const auto &field) { fill(field, r, random); });
+  settle(r, random);
+}
+
+template <has_record R> std::string difference(const R &a, const R &b);
+
+// Tells whether a field is the same in both records without any memory in common.
+template <class Kind, class R>
+requires(Kind::is_flat) bool alike(const Kind &field, const R &a, const R &b) {
+  const auto bytes = [&](const R &r) {
+    std::string all;
+    field.members(r, [&](const auto &member) { all.append(reinterpret_cast<const char *>(&member), sizeof member); });
+    return all;
+  };
+  return bytes(a) == bytes(b);
+}
+template <class R, class T>
+requires(!zel::ravix::nested<R, T>::is_flat) bool alike(const zel::ravix::nested<R, T> &field, const R &a, const R &b) {
+  return difference(a.*field.member, b.*field.member).empty();
+}
+template <class T> bool alike_pointees(const T *a, const T *b) {
+  return a == nullptr || b == nullptr ? a == b : a != b && difference(*a, *b).empty();
+}
+template <class R, class T> bool alike(const zel::ravix::owned<R, T> &field, const R &a, const R &b) {
+  return alike_pointees(a.*field.member, b.*field.member);
+}
+inline bool alike_texts(const char *a, const char *b) {
+  return a == nullptr || b == nullptr ? a == b : a != b && std::strcmp(a, b) == 0;
+}
+template <class R> bool alike(const zel::ravix::owned_text<R> &field, const R &a, const R &b) {
+  return alike_texts(a.*field.member, b.*field.member);
+}
+template <class R> bool alike(const zel::ravix::owned_bytes<R> &field, const R &a, const R &b) {
+  const std::uint8_t *first = a.*field.octets;
+  const std::uint8_t *second = b.*field.octets;
+  const std::size_t length = a.*field.length;
+  return a.*field.length == b.*field.length &&
+         (length == 0 ? first == nullptr && second == nullptr
+                      : first != second && std::memcmp(first, second, length) == 0);
+}
+template <class T, class E, class Text>
+bool alike(const zel::ravix::entries<T, E, Text> & /*field*/, const T &a, const T &b) {
+  if (a.count != b.count || (a.data == nullptr) != (b.data == nullptr) || (a.data != nullptr && a.data == b.data)) {
+    return false;
+  }
+  for (std::uint32_t i = 0; i < a.count; ++i) {
+    if constexpr (has_record<E>) {
+      if (!difference(a.data[i], b.data[i]).empty()) {
+        return false;
+      }
+    } else if constexpr (std::is_same_v<E, char *>) {
+      if (!alike_texts(a.data[i], b.data[i])) {
+        return false;
+      }
+    } else if (std::memcmp(&a.data[i], &b.data[i], sizeof(E)) != 0) {
+      return false;
+    }
+  }
+  return true;
+}
+
+// Name of the first field that is not alike; empty for records that are the same and share nothing.
+template <has_record R> std::string difference(const R &a, const R &b) {
+  std::string name;
+  zel::ravix::all_fields<R>([&](const auto &field) {
+    if (!alike(field, a, b)) {
+      name = field.name;
+    }
+    return name.empty();
+  });
+  return name;
+}
+
+} // namespace harness

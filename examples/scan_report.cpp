@@ -48,7 +48,7 @@ using response_ptr =
     std::unique_ptr<ravix_get_scan_results_response_t, releaser<ravix_types_get_scan_results_response_free>>;
 
 struct options {
-  std::string input = "";
+  std::string input;
   std::vector<uint32_t> frequencies; // kHz
   std::vector<ravix_ssid_t> ssids;
   bool hide_ssid = false;
@@ -166,7 +166,7 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
       if (++i == arguments.size()) {
         return wrong_argument(argument + " needs a value");
       }
-      std::string_view value = arguments[i];
+      const std::string_view value = arguments[i];
       if (argument == "--ssid") {
         ravix_ssid_t ssid{};
         if (value.size() > RAVIX_MAX_SSID_LEN) {
@@ -177,14 +177,13 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
         out.ssids.push_back(ssid);
         continue;
       }
-      do {
-        const auto item = text::split(value, ",");
+      for (const auto item : text::comma_separated(value)) {
         const auto khz = text::megahertz(item);
         if (!khz || !ravix_frequency_is_primary(*khz)) {
           return wrong_argument("no channel at frequency " + text::quote(item) + " (in MHz)");
         }
         out.frequencies.push_back(*khz);
-      } while (!value.empty());
+      }
     } else if (argument.size() > 1 && argument[0] == '-') {
       return wrong_argument("unknown option " + text::quote(argument));
     } else if (out.input.empty()) {

@@ -161,6 +161,15 @@ std::string_view split(std::string_view &text, std::string_view separator) {
   return piece;
 }
 
+std::vector<std::string_view> comma_separated(std::string_view text) {
+  std::vector<std::string_view> parts;
+  for (bool is_last = false; !is_last;) {
+    is_last = text.find(',') == std::string_view::npos;
+    parts.push_back(split(text, ","));
+  }
+  return parts;
+}
+
 std::optional<uint32_t> number(std::string_view text) {
   const bool hex = starts_with(text, "0x");
   text.remove_prefix(hex ? 2 : 0);

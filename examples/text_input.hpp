@@ -69,6 +69,8 @@ bool same(std::string_view a, std::string_view b);
 bool contains(std::string_view text, std::string_view part);
 // The part before the separator; takes it and the separator off the front of `text`.
 std::string_view split(std::string_view &text, std::string_view separator);
+// All parts between commas, of which the first and the last may be empty.
+std::vector<std::string_view> comma_separated(std::string_view text);
 // The number at the beginning: decimal, or hexadecimal after "0x".
 std::optional<uint32_t> number(std::string_view text);
 // The frequency in MHz at the beginning, with up to three decimals, in kHz.

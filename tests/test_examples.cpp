@@ -1,9 +1,11 @@
 // The example programs and their readers: what they make of good text, and what they say about bad text.
+#include "iw_phy.hpp"
 #include "iw_scan.hpp"
 
 #include "ravix_types_enums.h"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
+#include "ravix_types_validation.h"
 
 #include <gtest/gtest.h>
 
@@ -23,6 +25,7 @@ std::string file_content(const std::string &name) {
   return out.str();
 }
 
+const std::string sample_phy = RAVIX_EXAMPLE_DATA "/iw_phy_sample.txt";
 const std::string sample_scan = RAVIX_EXAMPLE_DATA "/iw_scan_sample.txt";
 
 struct outcome {
@@ -30,9 +33,10 @@ struct outcome {
   std::string output; // standard output and standard error
 };
 
-// Runs one of the programs.
+// Runs one of the programs, by a shell for its redirections.
 outcome run(const std::string &command_line) {
   outcome result;
+  // NOLINTNEXTLINE(cert-env33-c): all commands are written here
   std::FILE *pipe = popen((RAVIX_EXAMPLE_PROGRAMS "/" + command_line + " 2>&1").c_str(), "r");
   if (pipe == nullptr) {
     return result;
@@ -279,17 +283,200 @@ TEST(IwScan, EveryCutOfTheSampleIsReadWithoutFaults) {
   }
 }
 
-TEST(ConfigDiff, PrintsTheChangesAsRecordedAndNoSecret) {
-  const auto changes = run("config_diff --changes");
-  EXPECT_EQ(changes.status, 0);
-  EXPECT_EQ(changes.output, file_content(RAVIX_TEST_DATA "/config_diff.golden"));
-  const auto all = run("config_diff");
-  EXPECT_EQ(all.status, 0);
-  EXPECT_TRUE(all.output.ends_with("===== what changed\n" + changes.output));
-  for (const char *secret : {"herons", "welcome", "tide", "ebb", "keeper"}) {
-    EXPECT_EQ(all.output.find(secret), std::string::npos) << secret;
+// The text of a radio with the given lines in the 5 GHz band.
+std::string radio(const std::string &channels, const std::string &band = "2") {
+  return "Wiphy phy7\n\tBand " + band + ":\n\t\t\tHT20/HT40\n\t\tVHT Capabilities (0x0):\n\t\tFrequencies:\n" +
+         channels;
+}
+
+// The capabilities and state of each channel: "36 [ HT20 ] [ ]".
+std::vector<std::string> lists_of(const iw::phy &phy) {
+  std::vector<std::string> out;
+  for (const auto &band : phy.bands) {
+    const auto list = iw::make_channel_list(band);
+    for (uint32_t i = 0; list && i < list->count; ++i) {
+      const auto &entry = list->data[i];
+      out.push_back(std::to_string(ravix_frequency_to_channel(entry.frequency)) + " " +
+                    ravix_str_power(entry.max_power) + " " + ravix_str_channel_capabilities(entry.capabilities) + " " +
+                    ravix_str_channel_state(entry.state));
+    }
   }
-  EXPECT_EQ(run("config_diff --change").status, 2);
+  return out;
+}
+
+TEST(IwPhy, SampleGivesListsThatAreAccepted) {
+  text::problems problems;
+  const auto phys = iw::read_phys(file_content(sample_phy), problems);
+  EXPECT_TRUE(problems.list().empty());
+  ASSERT_EQ(phys.size(), 1U);
+  EXPECT_EQ(phys[0].name, "phy0");
+  std::vector<std::size_t> channels;
+  std::vector<uint32_t> usable;
+  for (const auto &band : phys[0].bands) {
+    const auto list = iw::make_channel_list(band);
+    EXPECT_TRUE(ravix_validate_channel_list(list.get(), nullptr));
+    channels.push_back(band.channels.size());
+    usable.push_back(list->count);
+  }
+  EXPECT_EQ(channels, (std::vector<std::size_t>{14, 28, 59}));
+  EXPECT_EQ(usable, (std::vector<uint32_t>{13, 24, 24}));
+}
+
+TEST(IwPhy, BothFormsOfTheListingAreRead) {
+  text::problems problems;
+  const auto listed =
+      radio("\t\t\t* 5180.0 MHz [36] (23.9 dBm)\n\t\t\t* 5200 MHz [40] (20.0 dBm) (no IR)\n"
+            "\t\t\t* 5220 MHz [44] (disabled)\n\t\t\t* 5240 MHz [48]\n"
+            "\t\t\t* 5260 MHz [52] (20.0 dBm) (passive scanning, no IBSS, radar detection)\n"
+            "\t\t\t* 5280 MHz [56] (20.0 dBm) (radar detection)\n\t\t\t  DFS state: available (for 7 sec)\n"
+            "\t\t\t* 5300 MHz [60] (20.0 dBm) (radar detection)\n\t\t\t  DFS state: unavailable\n"
+            "\t\t\t  DFS CAC time: 600000 ms\n\tSupported commands:\n\t\t * connect\n");
+  EXPECT_EQ(lists_of(iw::read_phys(listed, problems).at(0)),
+            (std::vector<std::string>{"36 23 dBm [ HT20 HT40 ] [ ]", "40 20 dBm [ HT20 HT40 ] [ ]",
+                                      "48 INVALID [ HT20 ] [ ]", "52 20 dBm [ HT20 HT40 DFS ] [ PRECAC_TODO ]",
+                                      "56 20 dBm [ HT20 HT40 DFS ] [ DFS_CLEAR ]",
+                                      "60 20 dBm [ HT20 DFS_WEATHER ] [ RADAR_FOUND ]"}));
+  const std::string channels = "Band 2:\n\t* 5180 MHz [36] \n\t  Maximum TX power: 23.0 dBm\n"
+                               "\t  Channel widths: 20MHz HT40+ VHT80\n\t* 5200 MHz [40]\n\t  Radar detection\n"
+                               "\t  Channel widths: 20MHz HT40-\n\t* 5220 MHz [44] (disabled)\n";
+  EXPECT_EQ(lists_of(iw::read_phys(channels, problems).at(0)),
+            (std::vector<std::string>{"36 23 dBm [ HT20 HT40 ] [ ]", "40 INVALID [ HT20 HT40 DFS ] [ PRECAC_TODO ]"}));
+  EXPECT_TRUE(problems.list().empty());
+}
+
+TEST(IwPhy, BadTextIsToldByLine) {
+  const std::string good = "\t\t\t* 5180 MHz [36] (20.0 dBm)\n";
+  const struct {
+    std::string text;
+    std::size_t channels;
+    std::string problem;
+  } cases[] = {
+      {radio(good), 1, ""},
+      {"", 0, "1: empty, so no description of a radio"},
+      {"BSS 02:00:00:00:00:01\n", 0, "1: no description of a radio: no line \"Band 1:\", 2 or 4 with channels"},
+      {radio(good) + radio(""), 1, "8: Band 2 has no channels, the text may be cut"},
+      {radio(good) + radio(good, "3"), 1, "8: note: 'Band 3:' is none of 2.4, 5 and 6 GHz, ignored"},
+      {radio(good + "\t\t\t* 5200 MHz [4"), 1, "7: a channel without its number: '5200 MHz [4'"},
+      {radio(good + "\t\t\t* 5200 MHz [40] (20.0 d\n"), 2, "7: a channel is cut: '5200 MHz [40] (20.0 d'"},
+      {radio(good + "\t\t\t* 5200 M"), 1, "7: the text is cut here"},
+      {radio(good + "\t\t\t* 5200 MHz [41] (20.0 dBm)\n"), 2,
+       "7: note: channel number and frequency do not agree, the frequency is taken: '5200 MHz [41] (20.0 dBm)'"},
+      {radio(good + "\t\t\t* 5200 MHz [40] (20.0 W)\n"), 2,
+       "7: a power that is not in dBm, taken as not known: '5200 MHz [40] (20.0 W)'"},
+      {radio(good + std::string(100000, 'x') + "\n"), 1, "7: a line of 100000 bytes, ignored"},
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.text.substr(0, 300));
+    text::problems problems;
+    std::size_t channels = 0;
+    for (const auto &phy : iw::read_phys(c.text, problems)) {
+      for (const auto &band : phy.bands) {
+        channels += band.channels.size();
+      }
+    }
+    EXPECT_EQ(channels, c.channels);
+    auto told = texts(problems);
+    told.resize(std::min<std::size_t>(told.size(), 1)); // a cut line may be told twice
+    EXPECT_EQ(told, c.problem.empty() ? std::vector<std::string>{} : std::vector{c.problem});
+  }
+}
+
+TEST(ChannelPlan, FindsTheWidestClearChannelAndUsesItConsistently) {
+  const struct {
+    const char *arguments;
+    const char *channel; // "" if there is none
+  } cases[] = {
+      {"--primary 5180", "5180/5250/160/0000/ 34- 66"},
+      {"--primary 5180 --max-width 160 --avoid radar,interference --mark-radar 5260-5320",
+       "5180/5210/ 80/0000/ 34- 50"},
+      {"--primary 5180 --max-width 40", "5180/5190/ 40/0000/ 34- 42"},
+      {"--primary 5180 --avoid precac", "5180/5210/ 80/0000/ 34- 50"},
+      {"--primary 5180 --avoid precac --mark-checked 5300-5320", "5180/5250/160/0000/ 34- 66"},
+      {"--primary 5180 --mark-interference 5180", ""},
+      {"--primary 5180 --mark-interference 5180 --avoid none", "5180/5250/160/0000/ 34- 66"},
+      {"--primary 5700", "5700/5700/ 20/0000/138-142"},                 // 5720 is disabled
+      {"--primary 5500", "5500/5510/ 40/0000/ 98-106"},                 // a radar in 5540
+      {"--primary 5500 --puncture 5540", "5500/5570/160/0004/ 98-130"}, // which may be punctured
+      {"--primary 5500 --puncture 5540 --mark-radar 5580", "5500/5530/ 80/0004/ 98-114"},
+      {"--primary 5500 --puncture 5520-5540", "5500/5500/ 20/0000/ 98-102"}, // in no map for 5500
+      {"--primary 6135", "6135/6105/320/0000/  1- 63"},
+      {"--primary 6135 --side upper", "6135/6265/320/0000/ 31- 95"},
+      {"--primary 6135 --mark-interference 5955", "6135/6265/320/0000/ 31- 95"},
+      {"--primary 6415 --side upper", "6415/6265/320/0000/ 31- 95"}, // the upper one is disabled
+      {"--primary 2412", "2412/2422/ 40/0000/  1-  7"},
+      {"--primary 2437 --side upper", "2437/2447/ 40/0000/  4- 12"},
+      {"--primary 2472 --max-width 20", "2472/2472/ 20/0000/ 11- 13"},
+  };
+  for (const auto &c : cases) {
+    SCOPED_TRACE(c.arguments);
+    const auto planned = run(std::string("channel_plan ") + c.arguments);
+    const std::string channel = c.channel;
+    EXPECT_EQ(planned.status, channel.empty() ? 1 : 0);
+    EXPECT_NE(planned.output.find(channel.empty() ? "no clear channel" : channel), std::string::npos) << planned.output;
+    EXPECT_EQ(planned.output.find("with this channel in use accepted") == std::string::npos, channel.empty());
+  }
+}
+
+TEST(ChannelPlan, AllPrimaryChannelsAreGoneThrough) {
+  const auto all = run("channel_plan --band 5 --list " + sample_phy);
+  EXPECT_EQ(all.status, 0);
+  EXPECT_EQ(all.output, file_content(RAVIX_TEST_DATA "/channel_plan.golden"));
+}
+
+TEST(ChannelPlan, RefusesListsByTheNamesOfTheRules) {
+  // A driver that reports a channel of another numbering after the others.
+  const auto name = testing::TempDir() + "channel_plan.txt";
+  std::ofstream(name) << radio("* 5955 MHz [1]\n* 5975 MHz [5]\n* 5935 MHz [2]\n", "4");
+  const auto refused = run("channel_plan " + name);
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_NE(refused.output.find("list refused: INVALID_FREQ RADIO_MISMATCH INVALID_ORDER\n"), std::string::npos);
+  EXPECT_NE(refused.output.find("5935 MHz (  2) is not a valid primary frequency!"), std::string::npos);
+  EXPECT_EQ(refused.output.find("WIDEST"), std::string::npos);
+  // A radar that is not avoided.
+  const auto careless = run("channel_plan --primary 5500 --avoid none");
+  EXPECT_EQ(careless.status, 1);
+  EXPECT_NE(careless.output.find("in use refused: STATE_FLAG_MISMATCH ACTIVE_ON_NOT_CLEARED\n"), std::string::npos);
+}
+
+TEST(ChannelPlan, WrongArgumentsAreRefused) {
+  for (const auto *const bad : {"--primary 5190", "--primary", "--max-width 60", "--side left", "--avoid rain",
+                                "--mark-radar 5320-5260", "--mark-radar 5260,", "--band 60", "--svg x.svg",
+                                "--puncture 5200", "--primary 5180 --puncture 5180", "--what", "a b"}) {
+    EXPECT_EQ(run(std::string("channel_plan ") + bad).status, 2) << bad;
+  }
+  EXPECT_EQ(run("channel_plan --help").status, 0);
+  EXPECT_EQ(run("channel_plan --phy phy9").output, "channel_plan: no radio 'phy9' in the text\n");
+  EXPECT_EQ(run("channel_plan --band 5 --svg /nonexistent/x.svg").status, 1);
+  EXPECT_EQ(run("channel_plan /nonexistent").output,
+            "channel_plan: /nonexistent: cannot be read: No such file or directory\n");
+}
+
+TEST(ChannelPlan, PictureShowsEachChannelOnceAndTheBracketOverTheChannel) {
+  const auto name = testing::TempDir() + "channel_plan.svg";
+  ASSERT_EQ(run("channel_plan --primary 6135 --side upper --mark-interference 5995 --svg " + name).status, 0);
+  const auto svg = file_content(name);
+  const auto count = [&](const std::string &part) {
+    std::size_t found = 0;
+    for (auto at = svg.find(part); at != std::string::npos; at = svg.find(part, at + 1)) {
+      ++found;
+    }
+    return found;
+  };
+  EXPECT_EQ(count(">320 MHz around 6265 MHz<"), 1U);
+  for (const auto *const frequency : {"5955", "6135", "6415", "6435", "7115"}) {
+    EXPECT_EQ(count(std::string(">") + frequency + "<"), 1U) << frequency;
+  }
+  EXPECT_EQ(count(">PRI<"), 1U);
+  EXPECT_EQ(count(">INTERF.<"), 1U);
+  EXPECT_EQ(count("fill=\"#1f4e79\" stroke="), 16U + 2U); // the channel, and twice in the legend
+  EXPECT_EQ(count("stroke-linecap"), 16U + 2U);           // over each channel, and the two ends
+  // The picture of the README.
+  ASSERT_EQ(
+      run("channel_plan --primary 5500 --mark-radar 5300,5540 --puncture 5540 --mark-interference 5785-5805 --svg " +
+          name)
+          .status,
+      0);
+  EXPECT_EQ(file_content(name), file_content(RAVIX_EXAMPLE_DATA "/../../docs/channel_plan.svg"));
 }
 
 } // namespace

@@ -1,0 +1,406 @@
+// Judges the channel lists of a radio, as the text that iw prints, and finds the widest clear channels.
+#include "band_picture.hpp"
+#include "iw_phy.hpp"
+#include "text_input.hpp"
+
+#include "ravix_types_enums.h"
+#include "ravix_types_printers.hpp"
+#include "ravix_types_str_convert.h"
+#include "ravix_types_util.h"
+#include "ravix_types_validation.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr const char *program = "channel_plan";
+constexpr const char *sample_name = "iw_phy_sample.txt";
+
+constexpr const char *help = R"(usage: channel_plan [OPTION...] [FILE]
+
+Reads what "iw phy" (or "iw list") prints about a radio from FILE, from standard input if FILE is "-", or from the
+sample that comes with the program. Checks the channel list of each band, and finds the widest clear channel around each
+primary channel, or around the one that is asked for.
+
+  --primary MHZ             plan with this primary channel; without it, all are gone through
+  --max-width MHZ           look for channels up to this width: 20, 40, 80, 160 or 320
+  --side lower|upper        side to try first where there is a choice: 40 MHz in 2.4 GHz, 320 MHz in 6 GHz
+  --avoid STATES            what a clear channel is free of, a list of: radar, interference, precac, cac, off, none
+                            (default: radar,interference)
+  --mark-radar MHZ          set marks on channels before looking; each takes a list of frequencies and ranges,
+  --mark-interference MHZ   for example 5260-5320,5500
+  --mark-checked MHZ        checked for radar, and free of it
+  --puncture MHZ            leave these 20 MHz channels out of the channel in use (802.11be)
+  --band 2.4|5|6            this band only
+  --phy NAME                the radio, if FILE describes several
+  --list                    print the channel list too
+  --svg FILE                draw the band of --primary or --band
+  -h, --help                this text
+
+Exit status: 0; 1 if something could not be read, a list is refused, or there is no clear channel; 2 for a wrong
+argument.
+)";
+
+struct range {
+  uint32_t low, high; // kHz
+};
+
+struct options {
+  std::string input;
+  uint32_t primary = 0;
+  uint16_t max_width = 0;
+  bool ext_high = false;
+  uint32_t avoid = RAVIX_CHANNEL_STATE_RADAR_FOUND | RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND;
+  std::vector<range> radar, interference, checked, punctured;
+  uint8_t band = 0;
+  std::string phy;
+  bool print_list = false;
+  std::string svg;
+};
+
+constexpr std::pair<std::string_view, uint32_t> state_words[] = {
+    {"radar", RAVIX_CHANNEL_STATE_RADAR_FOUND},
+    {"interference", RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND},
+    {"precac", RAVIX_CHANNEL_STATE_PRECAC_TODO},
+    {"cac", RAVIX_CHANNEL_STATE_CAC_RUNNING},
+    {"off", RAVIX_CHANNEL_STATE_1_MINUTE_OFF | RAVIX_CHANNEL_STATE_10_MINUTES_OFF},
+    {"none", 0},
+};
+
+std::optional<uint32_t> frequency_from(std::string_view text) {
+  const bool is_number = !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
+  return is_number ? text::megahertz(text) : std::nullopt;
+}
+
+std::optional<std::vector<range>> ranges_from(std::string_view text) {
+  std::vector<range> out;
+  for (auto item : text::comma_separated(text)) {
+    const bool is_range = item.find('-') != std::string_view::npos;
+    const auto low = frequency_from(text::split(item, "-"));
+    const auto high = is_range ? frequency_from(item) : low;
+    if (!low || !high || *low > *high) {
+      return std::nullopt;
+    }
+    out.push_back({*low, *high});
+  }
+  return out;
+}
+
+bool is_in(const std::vector<range> &ranges, uint32_t frequency) {
+  return std::any_of(ranges.begin(), ranges.end(),
+                     [=](const range &r) { return r.low <= frequency && frequency <= r.high; });
+}
+
+int wrong_argument(const std::string &message) {
+  std::cerr << program << ": " << message << " (see --help)\n";
+  return 2;
+}
+
+// Takes the value of an option; false if it is none.
+bool set_option(std::string_view name, std::string_view value, options &out) {
+  const auto set_ranges = [value](std::vector<range> &ranges) {
+    auto more = ranges_from(value);
+    if (more) {
+      ranges.insert(ranges.end(), more->begin(), more->end());
+    }
+    return more.has_value();
+  };
+  if (name == "--primary") {
+    out.primary = frequency_from(value).value_or(0);
+    return ravix_frequency_is_primary(out.primary);
+  }
+  if (name == "--max-width") {
+    out.max_width = ravix_frequency_to_channel_width(frequency_from(value).value_or(0));
+    return out.max_width != 0;
+  }
+  if (name == "--side") {
+    out.ext_high = value == "upper";
+    return value == "upper" || value == "lower";
+  }
+  if (name == "--avoid") {
+    out.avoid = 0;
+    for (const auto word : text::comma_separated(value)) {
+      const auto *const known = std::find_if(std::begin(state_words), std::end(state_words),
+                                             [&](const auto &state) { return state.first == word; });
+      if (known == std::end(state_words)) {
+        return false;
+      }
+      out.avoid |= known->second;
+    }
+    return true;
+  }
+  if (name == "--band") {
+    out.band = value == "2.4" ? RAVIX_RADIO_BAND_2GHZ
+               : value == "5" ? RAVIX_RADIO_BAND_5GHZ
+               : value == "6" ? RAVIX_RADIO_BAND_6GHZ
+                              : 0;
+    return out.band != 0;
+  }
+  if (name == "--phy" || name == "--svg") {
+    (name == "--phy" ? out.phy : out.svg) = value;
+    return !value.empty();
+  }
+  return set_ranges(name == "--mark-radar"          ? out.radar
+                    : name == "--mark-interference" ? out.interference
+                    : name == "--mark-checked"      ? out.checked
+                                                    : out.punctured);
+}
+
+// Returns an exit status if the program ends here.
+std::optional<int> read_arguments(const std::vector<std::string> &arguments, options &out) {
+  constexpr std::string_view with_value[] = {
+      "--primary",      "--max-width", "--side", "--avoid", "--mark-radar", "--mark-interference",
+      "--mark-checked", "--puncture",  "--band", "--phy",   "--svg"};
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const auto &argument = arguments[i];
+    if (argument == "-h" || argument == "--help") {
+      std::cout << help;
+      return 0;
+    }
+    if (argument == "--list") {
+      out.print_list = true;
+    } else if (std::find(std::begin(with_value), std::end(with_value), argument) != std::end(with_value)) {
+      if (++i == arguments.size()) {
+        return wrong_argument(argument + " needs a value");
+      }
+      if (!set_option(argument, arguments[i], out)) {
+        return wrong_argument(argument + " does not take " + text::quote(arguments[i]));
+      }
+    } else if (argument.size() > 1 && argument[0] == '-') {
+      return wrong_argument("unknown option " + text::quote(argument));
+    } else if (out.input.empty()) {
+      out.input = argument;
+    } else {
+      return wrong_argument("more than one file");
+    }
+  }
+  if (!out.svg.empty() && out.primary == 0 && out.band == 0) {
+    return wrong_argument("--svg draws one band, so it needs --primary or --band");
+  }
+  if (!out.punctured.empty() && out.primary == 0) {
+    return wrong_argument("--puncture needs --primary");
+  }
+  if (is_in(out.punctured, out.primary)) {
+    return wrong_argument("the primary channel cannot be punctured");
+  }
+  if (out.input.empty()) {
+    out.input = text::sample(sample_name);
+  }
+  return std::nullopt;
+}
+
+void mark(ravix_channel_list_t &list, const options &wanted) {
+  for (uint32_t i = 0; i < list.count; ++i) {
+    auto &entry = list.data[i];
+    constexpr uint32_t checks = RAVIX_CHANNEL_STATE_PRECAC_TODO | RAVIX_CHANNEL_STATE_DFS_CLEAR;
+    if (is_in(wanted.checked, entry.frequency)) {
+      entry.state = (entry.state & ~checks) | RAVIX_CHANNEL_STATE_DFS_CLEAR;
+    }
+    if (is_in(wanted.radar, entry.frequency)) {
+      entry.state = (entry.state & ~checks) | RAVIX_CHANNEL_STATE_RADAR_FOUND;
+    }
+    if (is_in(wanted.interference, entry.frequency)) {
+      entry.state |= RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND;
+    }
+  }
+}
+
+// Checks a list and prints the names of the rules that it violates.
+bool is_accepted(const ravix_channel_list_t &list) {
+  ravix_string_table_t violations{};
+  const bool accepted = ravix_validate_channel_list(&list, &violations);
+  std::cout << (accepted ? "accepted" : "refused:");
+  for (uint32_t i = 0; i < violations.count; ++i) {
+    std::cout << ' ' << violations.data[i];
+  }
+  std::cout << '\n';
+  ravix_types_string_table_clear(&violations);
+  return accepted;
+}
+
+// The punctured channels of a wide one as its puncture map.
+uint16_t puncture_map(const ravix_channel_info_t &channel, const std::vector<range> &punctured) {
+  const auto width = ravix_channel_width_to_frequency(channel.channel_width);
+  uint32_t map = 0;
+  for (uint32_t i = 0; i < width / 20000; ++i) {
+    map |= is_in(punctured, channel.center_freq - width / 2 + 10000 + 20000 * i) ? UINT32_C(1) << i : 0;
+  }
+  return static_cast<uint16_t>(map);
+}
+
+// The widest channel that is clear, of which the radio has all 20 MHz channels, and that may be punctured as wanted.
+std::optional<ravix_channel_info_t> find_widest(const ravix_channel_list_t &list, uint32_t primary,
+                                                const options &wanted) {
+  const iw::channel_list_ptr copy(ravix_types_channel_list_clone(&list));
+  if (!copy) {
+    return std::nullopt;
+  }
+  for (uint32_t i = 0; i < copy->count; ++i) {
+    // What is punctured is not used, so it need not be clear.
+    copy->data[i].state = is_in(wanted.punctured, copy->data[i].frequency) ? 0 : copy->data[i].state;
+  }
+  uint16_t width = wanted.max_width == 0 ? uint16_t{RAVIX_CHANNEL_WIDTH_320} : wanted.max_width;
+  while (width != 0) {
+    for (const bool ext_high : {wanted.ext_high, !wanted.ext_high}) {
+      ravix_channel_info_t found;
+      if (ravix_get_max_clear_channel_info(copy.get(), primary, wanted.avoid, ext_high, width, &found) != 0) {
+        return std::nullopt;
+      }
+      found.puncture_map = puncture_map(found, wanted.punctured);
+      if (iw::has_all_of(*copy, found) && ravix_channel_info_is_valid(&found)) {
+        return found;
+      }
+      width = std::min(width, found.channel_width);
+    }
+    width = ravix_channel_width_lower(width);
+  }
+  return std::nullopt;
+}
+
+// Sets the state that the channels have while the channel is in use; radar checks are then over.
+void use(ravix_channel_list_t &list, const ravix_channel_info_t &channel, const options &wanted) {
+  const auto half = ravix_channel_width_to_frequency(channel.channel_width) / 2;
+  for (uint32_t i = 0; i < list.count; ++i) {
+    auto &entry = list.data[i];
+    const auto f = entry.frequency;
+    if (f + half < channel.center_freq || f > channel.center_freq + half) {
+      continue;
+    }
+    if (is_in(wanted.punctured, f)) {
+      entry.state |= RAVIX_CHANNEL_STATE_PUNCTURED;
+      continue;
+    }
+    const bool is_dfs = (entry.capabilities & (RAVIX_CHANNEL_CAP_DFS | RAVIX_CHANNEL_CAP_DFS_WEATHER)) != 0;
+    if (is_dfs && (entry.state & RAVIX_CHANNEL_STATE_RADAR_FOUND) == 0) {
+      entry.state |= RAVIX_CHANNEL_STATE_DFS_CLEAR;
+    }
+    entry.state &= ~(RAVIX_CHANNEL_STATE_PRECAC_TODO | RAVIX_CHANNEL_STATE_CAC_RUNNING);
+    entry.state |= RAVIX_CHANNEL_STATE_ACTIVE | (f == channel.primary_freq ? RAVIX_CHANNEL_STATE_PRI_CHAN : 0);
+  }
+}
+
+std::string channel_line(uint32_t primary, const std::optional<ravix_channel_info_t> &found) {
+  std::string line = ravix_str_wifi_freq(primary);
+  const std::string width = found ? ravix_str_channel_width(found->channel_width) : "-";
+  line += "  " + std::string(7 - std::min<std::size_t>(7, width.size()), ' ') + width + "  ";
+  return line + (found ? ravix_str_channel_info(&*found) : "no clear channel");
+}
+
+struct plan {
+  bool is_good = true;
+  std::optional<ravix_channel_info_t> found;
+};
+
+plan plan_band(const iw::phy_band &band, ravix_channel_list_t &list, const options &wanted) {
+  const auto count = [&](bool iw::phy_channel::*flag) {
+    return std::count_if(band.channels.begin(), band.channels.end(), [=](const auto &c) { return c.*flag; });
+  };
+  std::cout << ravix_str_radio_band(band.radio_band) << ": " << band.channels.size() << " channels, "
+            << count(&iw::phy_channel::is_disabled) << " disabled, " << count(&iw::phy_channel::has_radar_detection)
+            << " with radar detection, " << count(&iw::phy_channel::is_passive) << " passive, up to "
+            << ravix_str_channel_width(ravix_channel_capabilities_to_channel_width(band.widths)) << ": list ";
+  if (!is_accepted(list)) {
+    return {false, std::nullopt};
+  }
+  plan result;
+  if (wanted.primary == 0) {
+    std::cout << "PRIMARY         WIDEST   CHANNEL_INFO\n";
+    for (uint32_t i = 0; i < list.count; ++i) {
+      const auto primary = list.data[i].frequency;
+      std::cout << channel_line(primary, find_widest(list, primary, wanted)) << '\n';
+    }
+  } else {
+    result.found = find_widest(list, wanted.primary, wanted);
+    std::cout << channel_line(wanted.primary, result.found) << '\n';
+    result.is_good = result.found.has_value();
+    if (result.found) {
+      use(list, *result.found, wanted);
+      std::cout << "list with this channel in use ";
+      result.is_good = is_accepted(list);
+    }
+  }
+  if (wanted.print_list) {
+    std::cout << list << '\n';
+  }
+  return result;
+}
+
+int draw(const iw::phy &radio, const iw::phy_band &band, const ravix_channel_list_t &list, const plan &planned,
+         const options &wanted) {
+  std::string subtitle =
+      band.radio_band == RAVIX_RADIO_BAND_2GHZ ? "channels overlap, 5 MHz apart" : "channels that the radio has";
+  if (wanted.primary != 0) {
+    subtitle = "primary channel " + std::to_string(ravix_frequency_to_channel(wanted.primary)) +
+               (planned.found ? ", widest clear channel" : ", no clear channel");
+  }
+  std::ofstream file(wanted.svg, std::ios::binary);
+  file << picture::draw_band(radio.name + ": " + ravix_str_radio_band(band.radio_band), subtitle, band, list,
+                             planned.found ? &*planned.found : nullptr);
+  file.close();
+  if (!file) {
+    std::cerr << program << ": cannot write " << wanted.svg << '\n';
+    return 1;
+  }
+  return 0;
+}
+
+int run(const options &wanted) {
+  std::string content;
+  text::problems problems;
+  if (const auto reason = text::read(wanted.input, content)) {
+    problems.error(0, "cannot be read: " + *reason);
+    problems.print(program, wanted.input);
+    return 1;
+  }
+  const auto radios = iw::read_phys(content, problems);
+  problems.print(program, wanted.input);
+  int status = problems.has_errors() ? 1 : 0;
+  const auto radio = std::find_if(radios.begin(), radios.end(),
+                                  [&](const iw::phy &r) { return wanted.phy.empty() || r.name == wanted.phy; });
+  if (radio == radios.end()) {
+    if (!wanted.phy.empty()) {
+      std::cerr << program << ": no radio " << text::quote(wanted.phy) << " in the text\n";
+    }
+    return 1;
+  }
+  const auto wanted_band = wanted.primary == 0 ? wanted.band : ravix_frequency_to_radio_band(wanted.primary);
+  bool is_done = false;
+  for (const auto &band : radio->bands) {
+    if (wanted_band != 0 && band.radio_band != wanted_band) {
+      continue;
+    }
+    std::cout << (is_done ? "\n" : "");
+    is_done = true;
+    const auto list = iw::make_channel_list(band);
+    if (!list) {
+      return 1;
+    }
+    mark(*list, wanted);
+    const auto planned = plan_band(band, *list, wanted);
+    status = planned.is_good ? status : 1;
+    if (!wanted.svg.empty() && draw(*radio, band, *list, planned, wanted) != 0) {
+      status = 1;
+    }
+  }
+  if (!is_done) {
+    std::cerr << program << ": " << radio->name << " has no channels in that band\n";
+    status = 1;
+  }
+  return std::cout.flush() ? status : 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  options wanted;
+  if (const auto status = read_arguments({argv + 1, argv + argc}, wanted)) {
+    return *status;
+  }
+  return run(wanted);
+}

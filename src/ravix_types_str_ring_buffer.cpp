@@ -33,7 +33,6 @@ template <class Put> bool ring_buffer::place(Put put) noexcept {
       return true;
     }
     if (start == buffer) {
-      buffer[capacity - 1] = '\0';
       cursor = buffer + capacity;
       return false;
     }

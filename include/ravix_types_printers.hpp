@@ -16,7 +16,10 @@
 #include "ravix_types_api_request.h"
 #include "ravix_types_cfg.h"
 #include "ravix_types_common.h"
+#include "ravix_types_event.h"
 #include "ravix_types_radio_env.h"
+#include "ravix_types_radiod_hal.h"
+#include "ravix_types_sta.h"
 
 #include <ios>
 #include <iosfwd>
@@ -80,6 +83,40 @@ RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_start_scan_requ
 RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_start_scan_response_t &value);
 RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_get_scan_results_request_t &value);
 RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_get_scan_results_response_t &value);
+/** @} */
+
+/** @name Stations
+ *  A line per field; the entries of a table under numbered headings.
+ *  @{ */
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_station_entry_t &entry);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_station_table_t &table);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_remote_client_entry_t &entry);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_remote_client_table_t &table);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_remote_ap_entry_t &entry);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_remote_ap_table_t &table);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_station_history_entry_t &entry);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_station_history_table_t &table);
+/** @} */
+
+/** @name Events
+ *  @{ */
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_scan_results_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_log_entry_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_green_ap_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_channel_change_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_interference_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_radar_wait_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_radar_detected_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_radar_precac_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_client_state_update_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_client_activity_update_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_event_client_rssi_update_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_hw_init_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_hw_deinit_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_set_config_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_check_config_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_sanity_t &event);
+RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_scan_fail_t &event);
 /** @} */
 
 /** @name Differences

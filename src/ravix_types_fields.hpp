@@ -48,10 +48,13 @@ template <class R, class Predicate> constexpr bool all_fields(Predicate holds) {
   return std::apply([&](const auto &...field) { return (holds(field) && ...); }, record<R>::fields);
 }
 
-// What a failed copy of a field logs and returns; without a message if the field has said what there is to say.
+// What a failed copy of a field logs and returns. Without a message the field has said what there is to say; with the
+// code for success the failure is told in the log only.
 struct failure {
   const char *message = nullptr;
   int code = success;
+
+  constexpr explicit operator bool() const { return message != nullptr || code != success; }
 };
 
 inline constexpr failure copy_error(int code) {
@@ -90,7 +93,7 @@ template <class R> int compare_fields(const R &a, const R &b) {
 // Copies the fields into a cleared record, up to the first that fails.
 template <class R> failure copy_fields(const R &src, R &dest, call_site site) {
   failure failed;
-  all_fields<R>([&](const auto &field) { return (failed = field.copy(src, dest, site)).code == success; });
+  all_fields<R>([&](const auto &field) { return !(failed = field.copy(src, dest, site)); });
   return failed;
 }
 
@@ -128,7 +131,7 @@ template <class R> int copy_or_clear(const R *src, R *dest, call_site site) {
   }
   record<R>::clear(dest);
   const failure failed = copy_fields(*src, *dest, site);
-  if (failed.code != success) [[unlikely]] {
+  if (failed) [[unlikely]] {
     if (failed.message != nullptr) {
       log_error(site, {failed.message});
     }

@@ -4,6 +4,7 @@
 
 #include "ravix_types_cfg.h"
 #include "ravix_types_common_fields.hpp"
+#include "ravix_types_sta.h"
 
 #include <array>
 #include <concepts>
@@ -39,6 +40,10 @@ template <class E> inline constexpr const char *heading = nullptr;
 template <> inline constexpr const char *heading<ravix_tlv_t> = "TLV";
 template <> inline constexpr const char *heading<ravix_cfg_radius_server_t> = "RADIUS SERVER";
 template <> inline constexpr const char *heading<ravix_cfg_security_extended_t> = "SECURITY EXTENDED";
+template <> inline constexpr const char *heading<ravix_station_entry_t> = "STATION";
+template <> inline constexpr const char *heading<ravix_remote_client_entry_t> = "REMOTE CLIENT";
+template <> inline constexpr const char *heading<ravix_remote_ap_entry_t> = "REMOTE AP";
+template <> inline constexpr const char *heading<ravix_station_history_entry_t> = "STATION HISTORY";
 
 template <class T>
 concept table_record = has_record<T> && requires(const T &table) {

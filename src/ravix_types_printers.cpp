@@ -2,7 +2,10 @@
 
 #include "ravix_types_api_request_fields.hpp"
 #include "ravix_types_cfg_fields.hpp"
+#include "ravix_types_event_fields.hpp"
 #include "ravix_types_print.hpp"
+#include "ravix_types_radiod_hal_fields.hpp"
+#include "ravix_types_sta_fields.hpp"
 
 namespace {
 
@@ -189,6 +192,42 @@ std::ostream &operator<<(std::ostream &os, const ravix_get_scan_results_response
     out.text(" status: ");
     out.text(ravix_str_status(value.status));
     labelled(out, "\n scan_results:", value.scan_results);
+  });
+}
+
+RAVIX_PRINTER(ravix_station_entry_t, out.lines(value))
+RAVIX_PRINTER(ravix_station_table_t, out.listed(value))
+RAVIX_PRINTER(ravix_remote_client_entry_t, out.lines(value))
+RAVIX_PRINTER(ravix_remote_client_table_t, out.listed(value))
+RAVIX_PRINTER(ravix_remote_ap_entry_t, out.lines(value))
+RAVIX_PRINTER(ravix_remote_ap_table_t, out.listed(value))
+RAVIX_PRINTER(ravix_station_history_entry_t, out.lines(value))
+RAVIX_PRINTER(ravix_station_history_table_t, out.listed(value))
+
+RAVIX_PRINTER(ravix_event_log_entry_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_green_ap_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_channel_change_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_interference_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_radar_wait_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_radar_detected_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_radar_precac_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_client_state_update_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_client_activity_update_t, out.lines(value))
+RAVIX_PRINTER(ravix_event_client_rssi_update_t, out.lines(value))
+
+RAVIX_PRINTER(radiod_hal_event_hw_init_t, out.lines(value))
+RAVIX_PRINTER(radiod_hal_event_hw_deinit_t, out.lines(value))
+RAVIX_PRINTER(radiod_hal_event_set_config_t, out.lines(value))
+RAVIX_PRINTER(radiod_hal_event_check_config_t, out.lines(value))
+RAVIX_PRINTER(radiod_hal_event_sanity_t, out.lines(value))
+RAVIX_PRINTER(radiod_hal_event_scan_fail_t, out.lines(value))
+
+std::ostream &operator<<(std::ostream &os, const ravix_event_scan_results_t &value) {
+  return print(os, [&](printer &out) {
+    out.text("Radio ID: ");
+    out.text(ravix_str_id(value.radio_id));
+    labelled(out, "\nScan parameter:", value.scan_parameter);
+    labelled(out, "\nScan results:", value.scan_results);
   });
 }
 

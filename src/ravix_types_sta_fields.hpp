@@ -50,7 +50,7 @@ template <> struct record<ravix_station_entry_t> {
 };
 
 template <> struct record<ravix_station_table_t> {
-  RAVIX_OPERATIONS(ravix_types_station_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_station_table)
   using T = ravix_station_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -88,7 +88,7 @@ template <> struct record<ravix_remote_client_entry_t> {
 };
 
 template <> struct record<ravix_remote_client_table_t> {
-  RAVIX_OPERATIONS(ravix_types_remote_client_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_remote_client_table)
   using T = ravix_remote_client_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -114,7 +114,7 @@ template <> struct record<ravix_remote_ap_entry_t> {
 };
 
 template <> struct record<ravix_remote_ap_table_t> {
-  RAVIX_OPERATIONS(ravix_types_remote_ap_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_remote_ap_table)
   using T = ravix_remote_ap_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };
@@ -139,7 +139,7 @@ template <> struct record<ravix_station_history_entry_t> {
 };
 
 template <> struct record<ravix_station_history_table_t> {
-  RAVIX_OPERATIONS(ravix_types_station_history_table)
+  RAVIX_TABLE_OPERATIONS(ravix_types_station_history_table)
   using T = ravix_station_history_table_t;
   static constexpr std::tuple fields{entries{&T::count, &T::data}};
 };

@@ -4,7 +4,10 @@
 
 #include "ravix_types_api_request_fields.hpp"
 #include "ravix_types_common_fields.hpp"
+#include "ravix_types_event_fields.hpp"
 #include "ravix_types_radio_env_fields.hpp"
+#include "ravix_types_radiod_hal_fields.hpp"
+#include "ravix_types_sta_fields.hpp"
 
 namespace harness {
 
@@ -20,7 +23,17 @@ using all_records = type_list<
     ravix_radio_load_table_t, ravix_radio_airtime_entry_t, ravix_radio_airtime_table_t,
     // requests and responses
     ravix_start_scan_request_t, ravix_start_scan_response_t, ravix_get_scan_results_request_t,
-    ravix_get_scan_results_response_t>;
+    ravix_get_scan_results_response_t,
+    // stations
+    ravix_station_entry_t, ravix_station_table_t, ravix_remote_client_entry_t, ravix_remote_client_table_t,
+    ravix_remote_ap_entry_t, ravix_remote_ap_table_t, ravix_station_history_entry_t, ravix_station_history_table_t,
+    // events
+    ravix_event_scan_results_t, ravix_event_log_entry_t, ravix_event_green_ap_t, ravix_event_channel_change_t,
+    ravix_event_interference_t, ravix_event_radar_wait_t, ravix_event_radar_detected_t, ravix_event_radar_precac_t,
+    ravix_event_client_state_update_t, ravix_event_client_activity_update_t, ravix_event_client_rssi_update_t,
+    // hardware layer events
+    radiod_hal_event_hw_init_t, radiod_hal_event_hw_deinit_t, radiod_hal_event_set_config_t,
+    radiod_hal_event_check_config_t, radiod_hal_event_sanity_t, radiod_hal_event_scan_fail_t>;
 
 // Records whose values are never equal to a copy of them: they compare the references to their memory.
 template <class R> inline constexpr bool compares_references = false;
@@ -29,5 +42,9 @@ template <> inline constexpr bool compares_references<ravix_tlv_table_t> = true;
 
 // Records whose copy reports success when no memory is left for a text, and tables of them.
 template <class R> inline constexpr bool copies_leniently = false;
+template <> inline constexpr bool copies_leniently<ravix_remote_ap_table_t> = true;
+template <> inline constexpr bool copies_leniently<ravix_remote_ap_entry_t> = true;
+template <> inline constexpr bool copies_leniently<ravix_remote_client_table_t> = true;
+template <> inline constexpr bool copies_leniently<ravix_remote_client_entry_t> = true;
 
 } // namespace harness

@@ -479,4 +479,17 @@ TEST(ChannelPlan, PictureShowsEachChannelOnceAndTheBracketOverTheChannel) {
   EXPECT_EQ(file_content(name), file_content(RAVIX_EXAMPLE_DATA "/../../docs/channel_plan.svg"));
 }
 
+TEST(ConfigDiff, PrintsTheChangesAsRecordedAndNoSecret) {
+  const auto changes = run("config_diff --changes");
+  EXPECT_EQ(changes.status, 0);
+  EXPECT_EQ(changes.output, file_content(RAVIX_TEST_DATA "/config_diff.golden"));
+  const auto all = run("config_diff");
+  EXPECT_EQ(all.status, 0);
+  EXPECT_TRUE(all.output.ends_with("===== what changed\n" + changes.output));
+  for (const char *secret : {"herons", "welcome", "tide", "ebb", "keeper"}) {
+    EXPECT_EQ(all.output.find(secret), std::string::npos) << secret;
+  }
+  EXPECT_EQ(run("config_diff --change").status, 2);
+}
+
 } // namespace

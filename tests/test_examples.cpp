@@ -1,4 +1,5 @@
 // The example programs and their readers: what they make of good text, and what they say about bad text.
+#include "golden.hpp"
 #include "iw_phy.hpp"
 #include "iw_scan.hpp"
 
@@ -70,7 +71,7 @@ TEST(IwScan, SampleIsListedAsRecorded) {
   EXPECT_EQ(listed.status, 0);
   // The first line has the time of the run.
   EXPECT_EQ(listed.output.substr(0, 11), "Scan time: ");
-  EXPECT_EQ(listed.output.substr(listed.output.find('\n') + 1), file_content(RAVIX_TEST_DATA "/scan_report.golden"));
+  harness::expect_golden("scan_report", listed.output.substr(listed.output.find('\n') + 1));
   EXPECT_EQ(run("scan_report").output.size(), listed.output.size());
   EXPECT_EQ(run("scan_report - <" + sample_scan).output.size(), listed.output.size());
 }
@@ -420,7 +421,7 @@ TEST(ChannelPlan, FindsTheWidestClearChannelAndUsesItConsistently) {
 TEST(ChannelPlan, AllPrimaryChannelsAreGoneThrough) {
   const auto all = run("channel_plan --band 5 --list " + sample_phy);
   EXPECT_EQ(all.status, 0);
-  EXPECT_EQ(all.output, file_content(RAVIX_TEST_DATA "/channel_plan.golden"));
+  harness::expect_golden("channel_plan", all.output);
 }
 
 TEST(ChannelPlan, RefusesListsByTheNamesOfTheRules) {
@@ -482,7 +483,7 @@ TEST(ChannelPlan, PictureShowsEachChannelOnceAndTheBracketOverTheChannel) {
 TEST(ConfigDiff, PrintsTheChangesAsRecordedAndNoSecret) {
   const auto changes = run("config_diff --changes");
   EXPECT_EQ(changes.status, 0);
-  EXPECT_EQ(changes.output, file_content(RAVIX_TEST_DATA "/config_diff.golden"));
+  harness::expect_golden("config_diff", changes.output);
   const auto all = run("config_diff");
   EXPECT_EQ(all.status, 0);
   EXPECT_TRUE(all.output.ends_with("===== what changed\n" + changes.output));

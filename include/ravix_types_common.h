@@ -10,8 +10,9 @@
  * - `_create()` gives a new record in its empty state, or null when memory is exhausted.
  * - `_clone(old_obj)` gives a new deep copy, or null: null argument, memory exhausted, or a copy that fails.
  * - `_copy(src, dest)` makes `dest` a deep copy of `src`. What `dest` owned before is released. All or nothing: on
- *   failure `dest` is empty, except after an invalid argument, which leaves it as it was. Copying a record onto itself
- *   changes nothing. Mind the order of the arguments.
+ *   failure `dest` is empty, except after an invalid argument, which leaves it as it was. Mind the order of the
+ *   arguments. Copying a record onto itself is harmless: it changes nothing, and returns 0 unless the record itself
+ *   refuses its value (an SSID that is too long).
  * - `_clear(obj)` releases what the record owns and gives it its empty state: zero, null, or the value that the field's
  *   description names as "empty".
  * - `_free(obj)` clears the record and releases it. For records from `_create` and `_clone` only.

@@ -3,8 +3,7 @@
  * Radio environment: scan parameters and results, noise floors, channel lists, radio load and airtime.
  *
  * Life-cycle, ownership, errors and threads: see ravix_types_common.h. These records have no `_compare`, their tables
- * no
- * `_contains_entry`.
+ * no `_contains_entry`.
  */
 #ifndef RAVIX_TYPES_RADIO_ENV_H
 #define RAVIX_TYPES_RADIO_ENV_H

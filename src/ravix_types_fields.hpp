@@ -129,6 +129,9 @@ template <class R> int copy_or_clear(const R *src, R *dest, call_site site) {
     log_error(site, {refusal});
     return invalid_argument;
   }
+  if (src == dest) {
+    return success;
+  }
   record<R>::clear(dest);
   const failure failed = copy_fields(*src, *dest, site);
   if (failed) [[unlikely]] {
@@ -144,11 +147,8 @@ template <class R> int record_copy(const R *src, R *dest, call_site site) {
   if (const int code = check_copy_arguments(src, dest, site); code != success) [[unlikely]] {
     return code;
   }
-  if (src == dest) {
-    return success;
-  }
   if constexpr (is_flat<R>()) {
-    if (copyable_fields(*src)) [[likely]] {
+    if (src != dest && copyable_fields(*src)) [[likely]] {
       transfer_fields(*src, *dest);
       return success;
     }

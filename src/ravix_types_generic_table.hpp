@@ -155,22 +155,22 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
     log_error({family, __func__}, {"Overflow would occur!"});
     return invalid_argument;
   }
+  const std::uint32_t count = table::elements(*table);
   // An entry of the table itself moves with the array.
   const auto offset = reinterpret_cast<std::uintptr_t>(entry) - reinterpret_cast<std::uintptr_t>(table->data);
   const bool entry_is_own = table->data != nullptr && offset < old_size;
-  auto *grown = static_cast<E *>(slab_drealloc(table->data, new_size, table::source, __LINE__));
+  auto *grown =
+      static_cast<E *>(slab_drealloc(table->data, count != 0 ? new_size : sizeof(E), table::source, __LINE__));
   if (grown == nullptr) [[unlikely]] {
     log_error({family, __func__}, {"No memory available!"});
     return out_of_memory;
-  }
-  if (table->data == nullptr) {
-    std::memset(static_cast<void *>(grown), 0, new_size); // a count without an array says nothing of its elements
   }
   if (entry_is_own) {
     entry = reinterpret_cast<entry_of<T> *>(reinterpret_cast<std::uintptr_t>(grown) + offset);
   }
   table->data = grown;
-  E *slot = &grown[table->count];
+  table->count = count;
+  E *slot = &grown[count];
   if constexpr (plain_table<T>) {
     std::memcpy(slot, entry, sizeof(E));
   } else {
@@ -181,7 +181,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
       return code;
     }
   }
-  ++table->count;
+  table->count = count + 1;
   return success;
 }
 

@@ -372,9 +372,9 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
       const sample<R> source(2);
       if (source.value.count != 0) {
         R grown{};
-        grown.count = 2;
+        grown.count = 0x10000000; // bytes that wrap to few, for some elements
         EXPECT_EQ(record<R>::add_entry(&grown, &source.value.data[0]), 0);
-        EXPECT_EQ(grown.count, 3U);
+        EXPECT_EQ(grown.count, 1U);
         record<R>::clear(&grown);
       }
     }

@@ -29,6 +29,18 @@ template <class Tag, class Wide, class Other> struct tagged {
   constexpr tagged(Tag /*tag*/, const char *field_name, Wide wide_field, Other other_field)
       : name(field_name), wide(wide_field), other(other_field) {}
 
+  // Calls the function with the field that the record has at present, if any.
+  template <class Function> void use(const R &r, Function function) const {
+    switch (Tag::of(r)) {
+    case alternative::wide:
+      return function(wide);
+    case alternative::other:
+      return function(other);
+    case alternative::none:
+      break;
+    }
+  }
+
   template <class Visit> void members(const R &r, Visit visit) const { wide.members(r, visit); }
   void clear(R &r, call_site site) const {
     use(r, [&](const auto &field) { field.clear(r, site); });
@@ -52,19 +64,6 @@ template <class Tag, class Wide, class Other> struct tagged {
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool newline) const {
     const R *same = ref != nullptr && Tag::of(*ref) == Tag::of(r) ? ref : nullptr;
     use(r, [&](const auto &field) { field.print_diff(out, r, same, indent, newline); });
-  }
-
-private:
-  // Calls the function with the field that the record has at present, if any.
-  template <class Function> void use(const R &r, Function function) const {
-    switch (Tag::of(r)) {
-    case alternative::wide:
-      return function(wide);
-    case alternative::other:
-      return function(other);
-    case alternative::none:
-      break;
-    }
   }
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ravix_types_api_request_fields.hpp"
+#include "ravix_types_cfg_fields.hpp"
 #include "ravix_types_common_fields.hpp"
 #include "ravix_types_event_fields.hpp"
 #include "ravix_types_radio_env_fields.hpp"
@@ -27,6 +28,15 @@ using all_records = type_list<
     // stations
     ravix_station_entry_t, ravix_station_table_t, ravix_remote_client_entry_t, ravix_remote_client_table_t,
     ravix_remote_ap_entry_t, ravix_remote_ap_table_t, ravix_station_history_entry_t, ravix_station_history_table_t,
+    // configuration
+    ravix_cfg_debug_settings_t, ravix_cfg_meshd_settings_t, ravix_cfg_time_control_t, ravix_cfg_repeating_t,
+    ravix_cfg_access_control_settings_t, ravix_cfg_global_settings_t, ravix_cfg_auto_update_role_opmode_t,
+    ravix_cfg_auto_update_feature_t, ravix_cfg_auto_update_rule_t, ravix_cfg_hardware_static_t,
+    ravix_cfg_radio_static_t, ravix_cfg_radio_dynamic_t, ravix_cfg_wlan_wps_t, ravix_cfg_radius_server_t,
+    ravix_cfg_radius_server_table_t, ravix_cfg_wlan_security_t, ravix_cfg_security_extended_t,
+    ravix_cfg_security_extended_table_t, ravix_cfg_role_access_control_t, ravix_cfg_role_ap_time_control_t,
+    ravix_cfg_role_config_ap_t, ravix_cfg_role_config_sta_uplink_t, ravix_cfg_role_config_sta_t,
+    ravix_cfg_role_static_t, ravix_cfg_owe_transition_t, ravix_cfg_mld_t, ravix_cfg_role_dynamic_t,
     // events
     ravix_event_scan_results_t, ravix_event_log_entry_t, ravix_event_green_ap_t, ravix_event_channel_change_t,
     ravix_event_interference_t, ravix_event_radar_wait_t, ravix_event_radar_detected_t, ravix_event_radar_precac_t,

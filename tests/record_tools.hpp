@@ -1,14 +1,16 @@
 // Records at random, and what it means that two are alike, by way of their field lists.
 #pragma once
 
-#include "ravix_types_common_fields.hpp"
+#include "all_records.hpp"
+
+#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <random>
 #include <string>
 #include <type_traits>
+#include <typeinfo>
 
 namespace harness {
 
@@ -79,6 +81,24 @@ template <class R, class T> void fill(const zel::ravix::owned<R, T> &field, R &r
     fill(*(r.*field.member), random);
   }
 }
+// Never null: a role without it is incomplete.
+template <class R, class T> void fill(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
+  r.*field.member = record<T>::create();
+  fill(*(r.*field.member), random);
+}
+inline void choose_tag(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
+  rule.type = 1 + random.up_to(1);
+}
+inline void choose_tag(ravix_cfg_role_static_t &role, randomness &random) {
+  role.op_mode = random.once_in(2) ? RAVIX_ROLE_OPMODE_REPEATER : RAVIX_ROLE_OPMODE_AP_HOTSPOT_OWE;
+}
+template <class Tag, class Wide, class Other, class R>
+void fill(const zel::ravix::tagged<Tag, Wide, Other> &field, R &r, randomness &random) {
+  if (Tag::of(r) == zel::ravix::alternative::none) {
+    choose_tag(r, random);
+  }
+  field.use(r, [&](const auto &alternative) { fill(alternative, r, random); });
+}
 inline char *random_text(randomness &random) {
   return random.once_in(4) ? nullptr : slab_dstrdup(random.word(40).c_str(), "tests", __LINE__);
 }
@@ -144,6 +164,13 @@ template <class T> bool alike_pointees(const T *a, const T *b) {
 template <class R, class T> bool alike(const zel::ravix::owned<R, T> &field, const R &a, const R &b) {
   return alike_pointees(a.*field.member, b.*field.member);
 }
+template <class Tag, class Wide, class Other, class R>
+bool alike(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &a, const R &b) {
+  // Without a tag there is nothing but storage, which an empty record has empty.
+  bool same = std::memcmp(&(a.*field.wide.member), &(b.*field.wide.member), sizeof(a.*field.wide.member)) == 0;
+  field.use(a, [&](const auto &alternative) { same = alike(alternative, a, b); });
+  return Tag::of(a) == Tag::of(b) && same;
+}
 inline bool alike_texts(const char *a, const char *b) {
   return a == nullptr || b == nullptr ? a == b : a != b && std::strcmp(a, b) == 0;
 }
@@ -189,6 +216,32 @@ template <has_record R> std::string difference(const R &a, const R &b) {
     return name.empty();
   });
   return name;
+}
+
+// A record of its own on the stack: filled at random from a seed, or empty.
+template <class R> struct sample {
+  R value;
+
+  sample() : value() { record<R>::clear(&value); }
+  explicit sample(unsigned seed) : sample() {
+    randomness random(seed);
+    fill(value, random);
+  }
+  ~sample() { record<R>::clear(&value); }
+  sample(const sample &) = delete;
+  sample &operator=(const sample &) = delete;
+};
+
+template <class... R, class Check> void for_all(type_list<R...> /*records*/, Check check) {
+  const auto run = [&]<class T>(T * /*type*/) {
+    SCOPED_TRACE(typeid(T).name());
+    check.template operator()<T>();
+  };
+  (run(static_cast<R *>(nullptr)), ...);
+}
+
+template <class Check> void for_all_records(Check check) {
+  for_all(all_records{}, check);
 }
 
 } // namespace harness

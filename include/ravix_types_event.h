@@ -60,7 +60,8 @@ typedef struct ravix_event_interference {
   bool channel_change;   /**< It led to a channel change. */
 } ravix_event_interference_t;
 
-/** An access point waits for a channel availability check, or has waited. Owns nothing. */
+/** An access point waits for a channel availability check, or has waited. Owns nothing. The two frequencies print in
+ *  MHz like any other, whatever their names end in. */
 typedef struct ravix_event_radar_wait {
   int32_t role_id;            /**< Role of the access point. */
   bool started;               /**< The wait begins; otherwise it ends. */

@@ -20,6 +20,7 @@
 #include "ravix_types_common.h"
 
 #include <assert.h>
+#include <stddef.h>
 
 /** @defgroup steering Client steering
  *  What the daemon tells a client about other BSSs, and what it asks and learns from it.
@@ -118,6 +119,7 @@ typedef struct ravix_beacon_report_rrm_req_params {
 #ifndef DOXYGEN
 static_assert(sizeof(ravix_btm_candidate_t) == 16, "a candidate is a fixed record of the interface");
 static_assert(sizeof(ravix_beacon_report_t) == 32, "a beacon report is a fixed record of the interface");
+static_assert(offsetof(ravix_beacon_report_rrm_req_params_t, request_count) == 48, "the plain values have no padding");
 static_assert(sizeof(ravix_ap_channel_report_t) == 2 * sizeof(void *), "two octets ahead of a pointer");
 #endif
 

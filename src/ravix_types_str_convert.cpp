@@ -293,6 +293,7 @@ const char *ravix_str_percentage(uint32_t percentage) {
   if (percentage == RAVIX_MEASURE_INVALID) {
     return invalid;
   }
+  // Unlike the form for enumerations, so that a log tells a measure that is out of range from a value without a name.
   return build_text<digits + 18>([&](char *out) {
     out = put(out, "<invalid value '");
     out = put_number(out, percentage);

@@ -493,4 +493,15 @@ TEST(ConfigDiff, PrintsTheChangesAsRecordedAndNoSecret) {
   EXPECT_EQ(run("config_diff --change").status, 2);
 }
 
+TEST(StationWatch, FollowsTheEventsAndEndsAsTheReadmeDoesInCpp) {
+  const auto watched = run("station_watch");
+  EXPECT_EQ(watched.status, 0);
+  harness::expect_golden("station_watch", watched.output);
+  const std::string last_part = run("test_readme").output;
+  EXPECT_EQ(last_part.substr(0, 16), "radar detected:\n");
+  EXPECT_EQ(watched.output.substr(watched.output.size() - last_part.size()), last_part);
+  EXPECT_EQ(run("station_watch --help").status, 0);
+  EXPECT_EQ(run("station_watch --nonsense").status, 2);
+}
+
 } // namespace

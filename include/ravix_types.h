@@ -17,5 +17,6 @@
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
 #include "ravix_types_validation.h"
+#include "ravix_types_version.h"
 
 #endif

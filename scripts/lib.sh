@@ -80,7 +80,7 @@ need() {
 # What every build needs, and what is named besides.
 # shellcheck disable=SC2120 # mostly called without arguments
 need_build_tools() {
-  need cmake=cmake ninja=ninja-build g++=g++ make=make /usr/include/gtest/gtest.h=libgtest-dev "$@"
+  need cmake=cmake ninja=ninja-build g++=g++ make=make pkg-config=pkgconf /usr/include/gtest/gtest.h=libgtest-dev "$@"
 }
 
 # Where a preset builds.

@@ -66,7 +66,15 @@ static void stations_and_events(void) {
   ravix_types_station_history_free(history);
 }
 
+static void version(void) {
+  char numbers[32];
+  snprintf(numbers, sizeof numbers, "%d.%d.%d", RAVIX_TYPES_VERSION_MAJOR, RAVIX_TYPES_VERSION_MINOR,
+           RAVIX_TYPES_VERSION_PATCH);
+  check(strncmp(RAVIX_TYPES_VERSION, numbers, strlen(numbers)) == 0, "the version's text begins with its numbers");
+}
+
 int main(void) {
+  version();
   common_and_environment();
   requests_and_configuration();
   arithmetic_and_text();

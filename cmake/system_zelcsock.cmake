@@ -1,0 +1,8 @@
+# The device's own libzelcsock as ravix::zelcsock; for this build, and for projects that use what it installed.
+find_library(ZELCSOCK_LIBRARY zelcsock REQUIRED)
+find_path(ZELCSOCK_INCLUDE_DIR zelcsock/slab.h REQUIRED)
+if(NOT TARGET ravix::zelcsock)
+  add_library(ravix::zelcsock UNKNOWN IMPORTED)
+  set_target_properties(ravix::zelcsock PROPERTIES IMPORTED_LOCATION ${ZELCSOCK_LIBRARY}
+                                                   INTERFACE_INCLUDE_DIRECTORIES ${ZELCSOCK_INCLUDE_DIR})
+endif()

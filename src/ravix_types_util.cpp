@@ -71,12 +71,12 @@ struct primary_range {
   uint32_t spacing;
 };
 constexpr primary_range primaries[] = {
-    {2412000, 2472000, 5000},  // 1 to 13
-    {2484000, 2484000, 5000},  // 14
-    {5180000, 5320000, 20000}, // 36 to 64
-    {5500000, 5720000, 20000}, // 100 to 144
-    {5745000, 5885000, 20000}, // 149 to 177
-    {5955000, 7115000, 20000}, // 6 GHz: 1 to 233
+    {2412000, 2472000, 5000},  // 1 to 13: class 81
+    {2484000, 2484000, 5000},  // 14: class 82
+    {5180000, 5320000, 20000}, // 36 to 64: classes 115 and 118
+    {5500000, 5720000, 20000}, // 100 to 144: class 121
+    {5745000, 5885000, 20000}, // 149 to 177: class 125
+    {5955000, 7115000, 20000}, // 6 GHz, 1 to 233: class 131
 };
 
 struct channel_width {
@@ -106,8 +106,25 @@ constexpr mode_width mode_widths[] = {
     {RAVIX_WLAN_MODE_11A | RAVIX_WLAN_MODE_11B | RAVIX_WLAN_MODE_11G, RAVIX_CHANNEL_WIDTH_20},
 };
 
+// Half decibels of a measurement report as an 8-bit code (IEEE 802.11, 9.4.2.37 and 9.4.2.40): 0 stands for `zero` and
+// for all below `least`, the highest code for all from `top` on.
+struct half_decibels {
+  float zero, least, top;
+
+  constexpr float decode(uint8_t code) const { return static_cast<float>(code) * 0.5F + zero; }
+  constexpr uint8_t encode(float value) const {
+    // A value that is not below `top` may also be no number at all.
+    const float shown = !(value < top) ? top : value < least ? zero : value;
+    return static_cast<uint8_t>((shown - zero) * 2.0F);
+  }
+};
+// `least` is deliberately half a step above code 0: what lies between is 0 all the same.
+constexpr half_decibels channel_power = {-110.0F, -109.5F, 0.0F};
+constexpr half_decibels signal_to_noise = {-10.0F, -10.0F, 117.0F};
+
 // 2.4 GHz. The 40 MHz channels are made of any two channels four apart (classes 83 and 84).
 constexpr uint32_t channel_14 = 2484000;
+constexpr uint32_t number_of_channel_14 = 14;
 constexpr int32_t highest_channel_but_14 = 13;
 constexpr uint32_t highest_primary_with_upper_second = 2452000;
 constexpr uint32_t lowest_primary_with_lower_second = 2432000;
@@ -279,7 +296,7 @@ uint8_t ravix_channel_to_radio_band(uint32_t channel) {
 }
 
 uint32_t ravix_frequency_from_channel_and_band(uint32_t channel, uint32_t radio_band) {
-  if (radio_band == RAVIX_RADIO_BAND_2GHZ && channel == 14) {
+  if (radio_band == RAVIX_RADIO_BAND_2GHZ && channel == number_of_channel_14) {
     return channel_14;
   }
   const auto *const row = std::ranges::find(band_numberings, radio_band, &band_numbers::band);
@@ -338,26 +355,19 @@ uint16_t ravix_get_highest_channel_width_from_mode(uint32_t wlan_mode) {
 }
 
 float ravix_rcpi_val_to_dBm(uint8_t rcpi) {
-  return static_cast<float>(rcpi) * 0.5F - 110.0F;
+  return channel_power.decode(rcpi);
 }
 
 uint8_t dBm_to_ravix_rcpi_val(float dBm) {
-  if (!(dBm < 0.0F)) { // NaN as well
-    return 220;
-  }
-  // Half a step above the end of the scale: what lies between is 0 too.
-  return dBm < -109.5F ? uint8_t{0} : static_cast<uint8_t>((dBm + 110.0F) * 2.0F);
+  return channel_power.encode(dBm);
 }
 
 float ravix_rsni_val_to_dB(uint8_t rsni) {
-  return static_cast<float>(rsni) * 0.5F - 10.0F;
+  return signal_to_noise.decode(rsni);
 }
 
 uint8_t dB_to_ravix_rsni_val(float dB) {
-  if (dB < -10.0F) {
-    return 0;
-  }
-  return dB <= 117.0F ? static_cast<uint8_t>((dB + 10.0F) * 2.0F) : uint8_t{254}; // NaN as well
+  return signal_to_noise.encode(dB);
 }
 
 float ravix_anpi_val_to_dBm(uint8_t anpi) {
@@ -440,13 +450,13 @@ bool ravix_channel_info_to_lowest_and_highest_channel(const ravix_channel_info_t
     return false;
   }
   if (channel_info->primary_freq == channel_14) {
-    *lowest = *highest = 14;
+    *lowest = *highest = number_of_channel_14;
     return true;
   }
-  constexpr uint32_t half_step_khz = 10000; // half the width, in steps of 5 MHz
+  // Channel numbers of these bands count steps of 5 MHz.
   const auto center = static_cast<int32_t>(ravix_frequency_to_channel(channel_info->center_freq));
   const auto reach =
-      static_cast<int32_t>(ravix_channel_width_to_frequency(channel_info->channel_width) / half_step_khz);
+      static_cast<int32_t>(ravix_channel_width_to_frequency(channel_info->channel_width) / 2 / channel_spacing);
   const bool capped = ravix_frequency_to_radio_band(channel_info->primary_freq) == RAVIX_RADIO_BAND_2GHZ;
   *lowest = static_cast<uint32_t>(std::max(center - reach, 1));
   *highest = static_cast<uint32_t>(capped ? std::min(center + reach, highest_channel_but_14) : center + reach);

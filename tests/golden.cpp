@@ -1,4 +1,5 @@
 #include "golden.hpp"
+#include "harness.hpp"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +10,16 @@
 
 namespace harness {
 
+namespace {
+
+std::string path_of(const std::string &name) {
+  return RAVIX_TEST_DATA "/" + name + ".golden";
+}
+
+} // namespace
+
 void expect_golden(const std::string &name, std::string_view text) {
-  const std::string path = RAVIX_TEST_DATA "/" + name + ".golden";
+  const std::string path = path_of(name);
   const char *update = std::getenv("RAVIX_UPDATE_GOLDEN"); // NOLINT(concurrency-mt-unsafe): nothing changes it
   if (update != nullptr && std::string_view(update) == "1") {
     EXPECT_TRUE((std::ofstream(path, std::ios::binary) << text).flush()) << path << " cannot be written";
@@ -39,6 +48,44 @@ void expect_golden(const std::string &name, std::string_view text) {
   ADD_FAILURE() << path << ":" << line << ": expected " << wanted_line << "\n  but got " << got_line
                 << (wanted_line == got_line ? " with another line end" : "")
                 << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";
+}
+
+void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer) {
+  captured_log log;
+  std::ifstream file(path_of(name));
+  std::string answered;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("    ")) {
+      continue; // logged anew
+    }
+    const bool is_call = !line.empty() && line[0] != '#';
+    const std::string call = is_call ? line.substr(0, line.find(" = ")) : line;
+    answered += is_call ? call + " = " + answer(call) + '\n' : call + '\n';
+    for (const log_line &logged : log.take()) {
+      answered += "    " + logged.name + ' ' + logged.file + ' ' + logged.function + ": " + logged.text + '\n';
+    }
+  }
+  expect_golden(name, answered);
+}
+
+void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome) {
+  std::ifstream file(path_of(name));
+  std::string all;
+  std::string input;
+  bool in_input = false;
+  for (std::string line; std::getline(file, line);) {
+    if (line.starts_with("===")) {
+      in_input = true;
+      input.clear();
+      all += line + '\n';
+    } else if (in_input && line == "---") {
+      in_input = false;
+      all.append(input).append("---\n").append(outcome(input));
+    } else if (in_input) {
+      input += line + '\n';
+    }
+  }
+  expect_golden(name, all);
 }
 
 } // namespace harness

@@ -64,6 +64,13 @@ struct options {
   std::string svg;
 };
 
+constexpr std::pair<std::string_view, std::vector<range> options::*> range_options[] = {
+    {"--mark-radar", &options::radar},
+    {"--mark-interference", &options::interference},
+    {"--mark-checked", &options::checked},
+    {"--puncture", &options::punctured},
+};
+
 constexpr std::pair<std::string_view, uint32_t> state_words[] = {
     {"radar", RAVIX_CHANNEL_STATE_RADAR_FOUND},
     {"interference", RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND},
@@ -104,13 +111,6 @@ int wrong_argument(const std::string &message) {
 
 // Takes the value of an option; false if it is none.
 bool set_option(std::string_view name, std::string_view value, options &out) {
-  const auto set_ranges = [value](std::vector<range> &ranges) {
-    auto more = ranges_from(value);
-    if (more) {
-      ranges.insert(ranges.end(), more->begin(), more->end());
-    }
-    return more.has_value();
-  };
   if (name == "--primary") {
     out.primary = frequency_from(value).value_or(0);
     return ravix_frequency_is_primary(out.primary);
@@ -146,10 +146,15 @@ bool set_option(std::string_view name, std::string_view value, options &out) {
     (name == "--phy" ? out.phy : out.svg) = value;
     return !value.empty();
   }
-  return set_ranges(name == "--mark-radar"          ? out.radar
-                    : name == "--mark-interference" ? out.interference
-                    : name == "--mark-checked"      ? out.checked
-                                                    : out.punctured);
+  const auto *const known = std::find_if(std::begin(range_options), std::end(range_options),
+                                         [=](const auto &option) { return option.first == name; });
+  const auto more = ranges_from(value);
+  if (known == std::end(range_options) || !more) {
+    return false;
+  }
+  auto &ranges = out.*known->second;
+  ranges.insert(ranges.end(), more->begin(), more->end());
+  return true;
 }
 
 // Returns an exit status if the program ends here.
@@ -182,6 +187,9 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
   }
   if (!out.svg.empty() && out.primary == 0 && out.band == 0) {
     return wrong_argument("--svg draws one band, so it needs --primary or --band");
+  }
+  if (out.primary != 0 && out.band != 0 && ravix_frequency_to_radio_band(out.primary) != out.band) {
+    return wrong_argument("the primary channel is not in that band");
   }
   if (!out.punctured.empty() && out.primary == 0) {
     return wrong_argument("--puncture needs --primary");
@@ -350,6 +358,39 @@ int draw(const iw::phy &radio, const iw::phy_band &band, const ravix_channel_lis
   return 0;
 }
 
+// Whether a radio has the channels that the arguments name; says what is missing.
+bool has_named_channels(const iw::phy &radio, const options &wanted) {
+  std::vector<iw::phy_channel> all;
+  for (const auto &band : radio.bands) {
+    all.insert(all.end(), band.channels.begin(), band.channels.end());
+  }
+  const auto find = [&](const range &r) {
+    return std::find_if(all.begin(), all.end(),
+                        [&](const auto &c) { return r.low <= c.frequency && c.frequency <= r.high; });
+  };
+  bool has_all = true;
+  const auto is_missing = [&](const std::string &what) {
+    std::cerr << program << ": " << radio.name << what << '\n';
+    has_all = false;
+  };
+  for (const auto &[name, ranges] : range_options) {
+    for (const range &r : wanted.*ranges) {
+      if (find(r) == all.end()) {
+        is_missing(" has no channel that " + std::string(name) + " names: " + std::to_string(r.low / 1000) +
+                   (r.low == r.high ? "" : "-" + std::to_string(r.high / 1000)) + " MHz");
+      }
+    }
+  }
+  if (wanted.primary != 0) {
+    const auto primary = find({wanted.primary, wanted.primary});
+    if (primary == all.end() || primary->is_disabled) {
+      is_missing(std::string(primary == all.end() ? " has no channel at " : " has disabled the channel at ") +
+                 ravix_str_wifi_freq(wanted.primary));
+    }
+  }
+  return has_all;
+}
+
 int run(const options &wanted) {
   std::string content;
   text::problems problems;
@@ -367,6 +408,9 @@ int run(const options &wanted) {
     if (!wanted.phy.empty()) {
       std::cerr << program << ": no radio " << text::quote(wanted.phy) << " in the text\n";
     }
+    return 1;
+  }
+  if (!has_named_channels(*radio, wanted)) {
     return 1;
   }
   const auto wanted_band = wanted.primary == 0 ? wanted.band : ravix_frequency_to_radio_band(wanted.primary);

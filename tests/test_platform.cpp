@@ -52,7 +52,7 @@ TEST(Log, WritesOneLinePerEndedLineWithItsCallSite) {
   harness::captured_log log;
   {
     ClogStreamBuf stream(std::make_unique<ModuleAdapter>("ravix", "src/x", "function", 12));
-    stream << "first " << 1 << std::endl << "second" << std::endl << "not ended";
+    stream << "first\n" << 1 << std::endl << "second" << std::endl << "not ended";
   }
   const auto lines = log.take();
   ASSERT_EQ(lines.size(), 2U);

@@ -73,12 +73,16 @@ void write_line(const char *name, const char *file, const char *function, int li
   if (length < 0) {
     return;
   }
+  char *const text = heap ? heap.get() : local.data();
+  for (char *c = text; *c != '\0'; ++c) {
+    *c = *c == '\n' ? ' ' : *c; // one line, whatever text the message quotes
+  }
   // The sink runs outside the lock: it may log itself.
   const sink target = [] {
     const std::lock_guard lock(registry_mutex);
     return current_sink;
   }();
-  target.write(target.context, name, file, function, line, heap ? heap.get() : local.data());
+  target.write(target.context, name, file, function, line, text);
 }
 
 } // namespace

@@ -29,15 +29,26 @@ protected:
     return count;
   }
 
+  // A line ends where std::endl flushes, not at a line break in a text that it quotes.
+  int sync() override {
+    if (line_.ends_with('\n')) {
+      line_.pop_back();
+      hand_over();
+    }
+    return 0;
+  }
+
 private:
   void put(char character) {
-    if (character != '\n') {
-      line_ += character;
+    line_ += character;
+    if (chunk_ != 0 && line_.size() == chunk_) {
+      hand_over();
     }
-    if (character == '\n' || (chunk_ != 0 && line_.size() == chunk_)) {
-      adapter_->write(line_.c_str());
-      line_.clear();
-    }
+  }
+
+  void hand_over() {
+    adapter_->write(line_.c_str());
+    line_.clear();
   }
 
   std::unique_ptr<ClogAdapterBase> adapter_;

@@ -27,8 +27,8 @@ ZELCSOCK_API struct clogger *clogger_get(const char *name);
 /* The logger's name; null for a null logger. The default logger is named "default". */
 ZELCSOCK_API const char *clogger_get_name(struct clogger *logger);
 
-/* Writes one error-level line, printf-style and without a line break, to a module's log. A null module writes nothing.
- */
+/* Writes one error-level line, printf-style and without a line break at its end, to a module's log. A line break within
+ * it becomes a blank. A null module writes nothing. */
 ZELCSOCK_API void clogmod__err(struct clogmod *module, const char *file, const char *function, int line,
                                const char *format, ...) __attribute__((format(printf, 5, 6)));
 

@@ -69,7 +69,8 @@ private:
   int reserved_ = 0; // part of the device's layout
 };
 
-// Stream whose ended lines go to an adapter, one write per line and without the line break.
+// Stream whose lines, each ended by std::endl, go to an adapter, one write per line and without the line break at its
+// end.
 class ZELCSOCK_API ClogStreamBuf : public std::ostream {
 public:
   explicit ClogStreamBuf(std::unique_ptr<ClogAdapterBase> adapter);

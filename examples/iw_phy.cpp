@@ -41,6 +41,10 @@ constexpr width_line width_lines[] = {
 // Number of a band in the kernel's interface to its band here; 0: 60 GHz and below 1 GHz.
 constexpr uint8_t bands_by_number[] = {0, RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAND_5GHZ, 0, RAVIX_RADIO_BAND_6GHZ};
 
+// No band has half as many. What is made of the channels goes through all of them for each, so that a text of millions
+// would be worked on for hours.
+constexpr std::size_t most_channels = 256;
+
 class phy_reader {
 public:
   phy_reader(std::string_view text, problems &problems) : lines_(text, problems), problems_(problems) {}
@@ -59,6 +63,7 @@ private:
   phy_band *band_ = nullptr;
   std::size_t band_line_ = 0;
   std::string band_name_;
+  bool is_overfull_ = false;
 };
 
 std::vector<phy> phy_reader::read() {
@@ -98,7 +103,8 @@ void phy_reader::begin_band(const text::line &line) {
   result_.back().bands.push_back({bands_by_number[*number], RAVIX_CHANNEL_CAP_HT20, {}});
   band_ = &result_.back().bands.back();
   band_line_ = line.number;
-  band_name_ = line.key;
+  is_overfull_ = false;
+  band_name_ = "Band " + std::to_string(*number); // not as it is written: that may hold anything
 }
 
 void phy_reader::end_band() {
@@ -126,6 +132,14 @@ bool phy_reader::channel(const text::line &line) {
   if (*number != ravix_frequency_to_channel(*frequency)) {
     problems_.remark(line.number,
                      "channel number and frequency do not agree, the frequency is taken: " + text::quote(line.content));
+  }
+  if (band_->channels.size() == most_channels) {
+    if (!is_overfull_) {
+      problems_.error(line.number, band_name_ + " has more than " + std::to_string(most_channels) +
+                                       " channels, the rest is ignored");
+    }
+    is_overfull_ = true;
+    return true;
   }
   band_->channels.emplace_back().frequency = *frequency;
   flags(line, words);

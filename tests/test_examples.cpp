@@ -175,6 +175,12 @@ TEST(IwPhy, TextsAreReadAsRecorded) {
   text::problems problems;
   iw::read_phys("Band 2:\n\t* 5180 MHz [36]\n\t* 5200 M", problems);
   EXPECT_EQ(told(problems), "3: the text is cut here\n");
+  std::string many = "Band 2:\n";
+  for (int i = 0; i < 300; ++i)
+    many += "\t* 5180 MHz [36]\n";
+  text::problems too_many;
+  EXPECT_EQ(iw::read_phys(many, too_many).at(0).bands.at(0).channels.size(), 256U);
+  EXPECT_EQ(told(too_many), "258: Band 2 has more than 256 channels, the rest is ignored\n");
 }
 
 TEST(IwPhy, SampleHasThreeBandsWhoseListsAreAccepted) {

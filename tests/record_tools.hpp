@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstring>
 #include <random>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <typeinfo>
@@ -20,9 +21,18 @@ using zel::ravix::record;
 class randomness {
 public:
   explicit randomness(unsigned seed) : engine_(seed) {}
+  // Chosen by the octets, as far as they go.
+  explicit randomness(std::span<const std::uint8_t> chosen) : engine_(0), chosen_(chosen) {}
 
   // Evenly from 0 to `most`.
-  std::uint32_t up_to(std::uint32_t most) { return std::uniform_int_distribution<std::uint32_t>(0, most)(engine_); }
+  [[gnu::noinline]] std::uint32_t up_to(std::uint32_t most) { // inlined, it leads g++ 12 to a warning without reason
+    if (chosen_.empty()) {
+      return std::uniform_int_distribution<std::uint32_t>(0, most)(engine_);
+    }
+    const std::uint32_t next = chosen_.front();
+    chosen_ = chosen_.subspan(1);
+    return most == UINT8_MAX ? next : next % (most + 1);
+  }
   bool once_in(std::uint32_t n) { return up_to(n - 1) == 0; }
 
   void bytes(void *memory, std::size_t size) {
@@ -41,6 +51,7 @@ public:
 
 private:
   std::mt19937 engine_;
+  std::span<const std::uint8_t> chosen_;
 };
 
 template <has_record R> void fill(R &r, randomness &random);
@@ -223,7 +234,7 @@ template <class R> struct sample {
   R value;
 
   sample() : value() { record<R>::clear(&value); }
-  explicit sample(unsigned seed) : sample() {
+  explicit sample(auto seed) : sample() {
     randomness random(seed);
     fill(value, random);
   }

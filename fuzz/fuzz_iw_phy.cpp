@@ -1,0 +1,36 @@
+// The reader of what "iw phy" prints, on the whole input as a text, and the channel lists that are made of it.
+//
+// - Whatever the text, each band of each radio has channels, and powers that a radio can have.
+// - A width that an entry of a list is capable of is a channel of which the list has all: a search for the widest
+//   channel around a primary channel finds one.
+// - A text without a band is told, each problem names a line of the text, and its message has no control characters.
+#include "fuzz.hpp"
+
+#include "iw_phy.hpp"
+
+#include "ravix_types_util.h"
+
+using fuzz::require;
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
+  const std::string text(reinterpret_cast<const char *>(data), size);
+  text::problems problems;
+  bool has_band = false;
+  for (const auto &radio : iw::read_phys(text, problems)) {
+    for (const auto &band : radio.bands) {
+      has_band = true;
+      const harness::captured_log log;
+      const auto list = iw::make_channel_list(band);
+      require(list && !band.channels.empty() && list->count <= band.channels.size(), "a band has channels");
+      for (uint32_t i = 0; i < list->count; ++i) {
+        const auto &entry = list->data[i];
+        require(entry.max_power == RAVIX_POWER_INVALID || std::abs(entry.max_power) <= 200, "a power");
+        ravix_channel_info_t found;
+        const int code = ravix_get_max_clear_channel_info(list.get(), entry.frequency, 0, false, 0, &found);
+        require((code == 0 && iw::has_all_of(*list, found)) || !ravix_frequency_is_primary(entry.frequency), "found");
+      }
+    }
+  }
+  fuzz::check_problems(problems, text, !has_band);
+  return 0;
+}

@@ -1,88 +1,63 @@
 // Formatters beside snprintf and fmt with the same format, parsers beside sscanf and a plain lookup. The peers write
 // into a local array and take no lock.
+#include "bench.hpp"
+
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
 
-#include <benchmark/benchmark.h>
-#include <fmt/core.h>
+#include <fmt/compile.h>
 
-#include <array>
 #include <cctype>
-#include <cstdint>
-#include <cstdio>
-#include <cstring>
-#include <random>
-#include <string>
-#include <vector>
+#include <limits>
+
+namespace bench {
 
 namespace {
 
-constexpr std::size_t samples = 256; // a power of two; enough that no branch predictor learns them by heart
+constexpr std::size_t longest = 512;
 
-template <class Make> auto sampled(Make make) {
-  std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same samples in each run
-  std::vector<decltype(make(random))> values;
-  for (std::size_t i = 0; i < samples; ++i) {
-    values.push_back(make(random));
-  }
-  return values;
-}
-
-// Measures `work` on one sample after the other.
-template <class Samples, class Work> void measure(const std::string &name, const Samples &values, Work work) {
-  benchmark::RegisterBenchmark(name.c_str(), [values, work](benchmark::State &state) {
-    std::size_t at = 0;
-    for (auto _ : state) {
-      work(values[at++ % samples]);
-    }
-  });
-}
-
-// The three ways of making one text: `ours` returns it, the peers write it into an array of 512 characters.
-template <class Samples, class Ours, class Printf, class Fmt>
-void compare(const std::string &name, const Samples &values, Ours ours, Printf with_snprintf, Fmt with_fmt) {
-  measure(name + "/ravix", values, [ours](const auto &value) { benchmark::DoNotOptimize(ours(value)); });
-  measure(name + "/snprintf", values, [with_snprintf](const auto &value) {
-    char text[512];
+// The ways of making one text: `ours` returns it, the peers write it into an array.
+template <class Value, class Ours, class Printf, class Fmt>
+void text_row(const std::string &name, const std::vector<Value> &values, Ours ours, Printf with_snprintf,
+              Fmt with_fmt) {
+  for (const Value &value : values) {
+    char text[longest];
     with_snprintf(text, value);
-    benchmark::DoNotOptimize(text);
-    benchmark::ClobberMemory();
-  });
-  measure(name + "/fmt", values, [with_fmt](const auto &value) {
-    char text[512];
+    require(std::strcmp(ours(value), text) == 0, "snprintf makes another text");
     *with_fmt(text, value) = '\0';
-    benchmark::DoNotOptimize(text);
-    benchmark::ClobberMemory();
-  });
+    require(std::strcmp(ours(value), text) == 0, "fmt makes another text");
+  }
+  row(name, values, way{"ravix", [=](const Value &value) { benchmark::DoNotOptimize(ours(value)); }},
+      way{"snprintf",
+          [=](const Value &value) {
+            char text[longest];
+            with_snprintf(text, value);
+            keep(text);
+          }},
+      way{"fmt", [=](const Value &value) {
+            char text[longest];
+            *with_fmt(text, value) = '\0';
+            keep(text);
+          }});
 }
 
-template <std::size_t Count> auto random_octets() {
-  return sampled([](auto &random) {
-    std::array<std::uint8_t, Count> octets;
-    for (std::uint8_t &octet : octets) {
-      octet = static_cast<std::uint8_t>(random());
-    }
-    return octets;
-  });
-}
-
-template <class Integer> auto random_integers(Integer least, Integer most) {
+template <class Integer> auto random_integers(std::int64_t least, std::int64_t most) {
   return sampled([=](auto &random) {
     return static_cast<Integer>(std::uniform_int_distribution<std::int64_t>(least, most)(random));
   });
 }
 
-template <class Bits> void compare_bits(const std::string &name, const char *(*ours)(Bits)) {
+template <class Bits> void bits_row(const std::string &name, const char *(*ours)(Bits)) {
   constexpr int width = std::numeric_limits<Bits>::digits;
   const auto values = sampled([](auto &random) { return static_cast<Bits>(std::uint64_t{random()} << 32 | random()); });
-  compare(
+  text_row(
       name, values, ours,
       [](char *text, Bits value) {
         for (int bit = width; bit-- > 0;) {
           text += snprintf(text, 2, "%u", static_cast<unsigned>(value >> bit & 1));
         }
       },
-      [=](char *text, Bits value) { return fmt::format_to(text, "{:0{}b}", value, width); });
+      [=](char *text, Bits value) { return fmt::format_to(text, FMT_COMPILE("{:0{}b}"), value, width); });
 }
 
 const std::array<const char *, 32> capability_names = {
@@ -91,12 +66,37 @@ const std::array<const char *, 32> capability_names = {
     "WME_PS",  "TXBF",    "AMSDU",    "AMPDU",    "UAPSD",    "MUMIMO", "11N_2G_256QAM", "11NAC_1024QAM",
     "RRM",     "FBT",     "BTM",      "MLO",      "QCA",      "MINI",   "ZEL",           "ZELWDS"};
 
+ravix_ip_addr_t random_address(std::mt19937 &random, std::uint8_t version) {
+  ravix_ip_addr_t address{version, {}};
+  for (std::uint8_t &octet : address.addr) {
+    octet = static_cast<std::uint8_t>(random());
+  }
+  return address;
+}
+
+const char *width_label(const ravix_channel_info_t &info) {
+  switch (info.channel_width) {
+  case RAVIX_CHANNEL_WIDTH_20:
+    return "20";
+  case RAVIX_CHANNEL_WIDTH_40:
+    return "40";
+  case RAVIX_CHANNEL_WIDTH_80:
+    return "80";
+  case RAVIX_CHANNEL_WIDTH_160:
+    return "160";
+  case RAVIX_CHANNEL_WIDTH_320:
+    return "320";
+  default:
+    return "INV";
+  }
+}
+
 bool plain_role_opmode(const char *text, std::uint8_t *output) {
   static constexpr std::pair<const char *, std::uint8_t> names[] = {
       {"INVALID_MIN", 0}, {"AP_HOME", 1},     {"AP_GUEST", 2},     {"ATACLIENT", 3},       {"REPEATER", 6},
       {"AP_HOTSPOT", 7},  {"AP_HOME_OWE", 8}, {"AP_GUEST_OWE", 9}, {"AP_HOTSPOT_OWE", 10}, {"INVALID_MAX", 11}};
   char copy[128] = {};
-  snprintf(copy, sizeof copy, "%s", text);
+  std::strncpy(copy, text, sizeof copy - 1);
   for (char *character = copy; *character != '\0'; ++character) {
     *character = static_cast<char>(std::toupper(static_cast<unsigned char>(*character)));
   }
@@ -109,101 +109,114 @@ bool plain_role_opmode(const char *text, std::uint8_t *output) {
   return false;
 }
 
-void register_formatters() {
-  compare(
-      "mac", random_octets<6>(), [](const auto &mac) { return ravix_str_mac(mac.data()); },
-      [](char *text, const auto &o) {
-        snprintf(text, 512, "%02X:%02X:%02X:%02X:%02X:%02X", o[0], o[1], o[2], o[3], o[4], o[5]);
-      },
-      [](char *text, const auto &o) {
-        return fmt::format_to(text, "{:02X}:{:02X}:{:02X}:{:02X}:{:02X}:{:02X}", o[0], o[1], o[2], o[3], o[4], o[5]);
+constexpr char mac_format[] = "%02X:%02X:%02X:%02X:%02X:%02X";
+constexpr char uuid_format[] = "%02X%02X%02X%02X-%02X%02X-%02X%02X-%02X%02X-%02X%02X%02X%02X%02X%02X";
+constexpr char mac_scan[] = "%02hhx:%02hhx:%02hhx:%02hhx:%02hhx:%02hhx";
+constexpr char uuid_scan[] = "%02hhx%02hhx%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-"
+                             "%02hhx%02hhx%02hhx%02hhx%02hhx%02hhx";
+
+// Calls a function with its arguments, `octets` one by one and last.
+template <std::size_t Count, class Octets, class Function> auto spread(Octets &&octets, Function function) {
+  return [&]<std::size_t... i>(std::index_sequence<i...>) {
+    return function(octets[i]...);
+  }
+  (std::make_index_sequence<Count>{});
+}
+
+} // namespace
+
+void register_text() {
+  text_row(
+      "mac", sampled(random_octets<std::array<std::uint8_t, 6>>), [](auto &mac) { return ravix_str_mac(mac.data()); },
+      [](char *text, auto &mac) { spread<6>(mac, [=](auto... o) { snprintf(text, longest, mac_format, o...); }); },
+      [](char *text, auto &mac) {
+        return spread<6>(mac, [=](auto... o) {
+          return fmt::format_to(text, FMT_COMPILE("{:02X}:{:02X}:{:02X}:{:02X}:{:02X}:{:02X}"), o...);
+        });
       });
-  compare(
-      "uuid", random_octets<16>(), [](const auto &uuid) { return ravix_str_uuid(uuid.data()); },
-      [](char *text, const auto &o) {
-        snprintf(text, 512, "%02X%02X%02X%02X-%02X%02X-%02X%02X-%02X%02X-%02X%02X%02X%02X%02X%02X", o[0], o[1], o[2],
-                 o[3], o[4], o[5], o[6], o[7], o[8], o[9], o[10], o[11], o[12], o[13], o[14], o[15]);
-      },
-      [](char *text, const auto &o) {
-        return fmt::format_to(
-            text,
-            "{:02X}{:02X}{:02X}{:02X}-{:02X}{:02X}-{:02X}{:02X}-{:02X}{:02X}-{:02X}{:02X}{:02X}{:02X}{:02X}{:02X}",
-            o[0], o[1], o[2], o[3], o[4], o[5], o[6], o[7], o[8], o[9], o[10], o[11], o[12], o[13], o[14], o[15]);
+  text_row(
+      "uuid", sampled(random_octets<std::array<std::uint8_t, 16>>),
+      [](auto &uuid) { return ravix_str_uuid(uuid.data()); },
+      [](char *text, auto &uuid) { spread<16>(uuid, [=](auto... o) { snprintf(text, longest, uuid_format, o...); }); },
+      [](char *text, auto &uuid) {
+        return spread<16>(uuid, [=](auto... o) {
+          return fmt::format_to(text,
+                                FMT_COMPILE("{:02X}{:02X}{:02X}{:02X}-{:02X}{:02X}-{:02X}{:02X}-{:02X}{:02X}-"
+                                            "{:02X}{:02X}{:02X}{:02X}{:02X}{:02X}"),
+                                o...);
+        });
       });
-  const auto address = [](std::uint8_t version) {
-    return sampled([=](auto &random) {
-      ravix_ip_addr_t ip{version, {}};
-      for (std::uint8_t &octet : ip.addr) {
-        octet = static_cast<std::uint8_t>(random());
-      }
-      return ip;
-    });
+  const auto address_text = [](const ravix_ip_addr_t &address) { return ravix_str_ip_addr(&address); };
+  text_row(
+      "ipv4", sampled([](auto &random) { return random_address(random, RAVIX_IP_VERSION_4); }), address_text,
+      [](char *text, auto &ip) {
+        spread<4>(ip.addr, [=](auto... o) { snprintf(text, longest, "%u.%u.%u.%u", o...); });
+      },
+      [](char *text, auto &ip) {
+        return spread<4>(ip.addr, [=](auto... o) { return fmt::format_to(text, FMT_COMPILE("{}.{}.{}.{}"), o...); });
+      });
+  const auto groups = [](const ravix_ip_addr_t &ip) {
+    std::array<unsigned, 8> all{};
+    for (std::size_t i = 0; i < 8; ++i) {
+      all[i] = static_cast<unsigned>(ip.addr[2 * i] << 8 | ip.addr[2 * i + 1]);
+    }
+    return all;
   };
-  const auto format_ip = [](const ravix_ip_addr_t &ip) { return ravix_str_ip_addr(&ip); };
-  compare(
-      "ipv4", address(RAVIX_IP_VERSION_4), format_ip,
-      [](char *text, const auto &ip) {
-        snprintf(text, 512, "%u.%u.%u.%u", ip.addr[0], ip.addr[1], ip.addr[2], ip.addr[3]);
+  text_row(
+      "ipv6", sampled([](auto &random) { return random_address(random, RAVIX_IP_VERSION_6); }), address_text,
+      [=](char *text, auto &ip) {
+        spread<8>(groups(ip), [=](auto... g) { snprintf(text, longest, "%x:%x:%x:%x:%x:%x:%x:%x", g...); });
       },
-      [](char *text, const auto &ip) {
-        return fmt::format_to(text, "{}.{}.{}.{}", ip.addr[0], ip.addr[1], ip.addr[2], ip.addr[3]);
-      });
-  const auto group = [](const ravix_ip_addr_t &ip, unsigned i) { return ip.addr[i] << 8 | ip.addr[i + 1]; };
-  compare(
-      "ipv6", address(RAVIX_IP_VERSION_6), format_ip,
-      [=](char *text, const auto &ip) {
-        snprintf(text, 512, "%x:%x:%x:%x:%x:%x:%x:%x", group(ip, 0), group(ip, 2), group(ip, 4), group(ip, 6),
-                 group(ip, 8), group(ip, 10), group(ip, 12), group(ip, 14));
-      },
-      [=](char *text, const auto &ip) {
-        return fmt::format_to(text, "{:x}:{:x}:{:x}:{:x}:{:x}:{:x}:{:x}:{:x}", group(ip, 0), group(ip, 2), group(ip, 4),
-                              group(ip, 6), group(ip, 8), group(ip, 10), group(ip, 12), group(ip, 14));
+      [=](char *text, auto &ip) {
+        return spread<8>(groups(ip), [=](auto... g) {
+          return fmt::format_to(text, FMT_COMPILE("{:x}:{:x}:{:x}:{:x}:{:x}:{:x}:{:x}:{:x}"), g...);
+        });
       });
   const auto frequencies =
       sampled([](auto &random) { return static_cast<std::uint32_t>(5180000 + random() % 350 * 5000); });
-  compare(
+  text_row(
       "frequency", frequencies, ravix_str_frequency,
-      [](char *text, std::uint32_t value) { snprintf(text, 512, "%u kHz", value); },
-      [](char *text, std::uint32_t value) { return fmt::format_to(text, "{} kHz", value); });
-  compare(
+      [](char *text, std::uint32_t value) { snprintf(text, longest, "%u kHz", value); },
+      [](char *text, std::uint32_t value) { return fmt::format_to(text, FMT_COMPILE("{} kHz"), value); });
+  text_row(
       "wifi_freq", frequencies, ravix_str_wifi_freq,
       [](char *text, std::uint32_t value) {
-        snprintf(text, 512, "%4u MHz (%3u)", value / 1000, ravix_frequency_to_channel(value));
+        snprintf(text, longest, "%4u MHz (%3u)", value / 1000, ravix_frequency_to_channel(value));
       },
       [](char *text, std::uint32_t value) {
-        return fmt::format_to(text, "{:4} MHz ({:3})", value / 1000, ravix_frequency_to_channel(value));
+        return fmt::format_to(text, FMT_COMPILE("{:4} MHz ({:3})"), value / 1000, ravix_frequency_to_channel(value));
       });
-  compare(
+  text_row(
       "id", random_integers<std::int32_t>(1, 5000), ravix_str_id,
-      [](char *text, std::int32_t value) { snprintf(text, 512, "%d", value); },
-      [](char *text, std::int32_t value) { return fmt::format_to(text, "{}", value); });
-  compare(
+      [](char *text, std::int32_t value) { snprintf(text, longest, "%d", value); },
+      [](char *text, std::int32_t value) { return fmt::format_to(text, FMT_COMPILE("{}"), value); });
+  text_row(
       "power", random_integers<std::int32_t>(-95, 30), ravix_str_power,
-      [](char *text, std::int32_t value) { snprintf(text, 512, "%d dBm", value); },
-      [](char *text, std::int32_t value) { return fmt::format_to(text, "{} dBm", value); });
-  compare(
+      [](char *text, std::int32_t value) { snprintf(text, longest, "%d dBm", value); },
+      [](char *text, std::int32_t value) { return fmt::format_to(text, FMT_COMPILE("{} dBm"), value); });
+  text_row(
       "percentage", random_integers<std::uint32_t>(0, 100), ravix_str_percentage,
-      [](char *text, std::uint32_t value) { snprintf(text, 512, "%u%%", value); },
-      [](char *text, std::uint32_t value) { return fmt::format_to(text, "{}%", value); });
-  compare_bits<std::uint8_t>("bitfield_8", ravix_str_bitfield_8);
-  compare_bits<std::uint16_t>("bitfield_16", ravix_str_bitfield_16);
-  compare_bits<std::uint32_t>("bitfield_32", ravix_str_bitfield_32);
-  compare_bits<std::uint64_t>("bitfield_64", ravix_str_bitfield_64);
-  compare(
-      "flags_32_names", std::vector<std::uint32_t>(samples, UINT32_MAX), ravix_str_capabilities,
+      [](char *text, std::uint32_t value) { snprintf(text, longest, "%u%%", value); },
+      [](char *text, std::uint32_t value) { return fmt::format_to(text, FMT_COMPILE("{}%"), value); });
+  bits_row<std::uint8_t>("bits_8", ravix_str_bitfield_8);
+  bits_row<std::uint16_t>("bits_16", ravix_str_bitfield_16);
+  bits_row<std::uint32_t>("bits_32", ravix_str_bitfield_32);
+  bits_row<std::uint64_t>("bits_64", ravix_str_bitfield_64);
+  text_row(
+      "flags", std::vector<std::uint32_t>(samples, UINT32_MAX), ravix_str_capabilities,
       [](char *text, std::uint32_t) {
-        text += snprintf(text, 512, "[ ");
+        text += snprintf(text, longest, "[ ");
         for (const char *name : capability_names) {
           text += snprintf(text, 32, "%s ", name);
         }
         snprintf(text, 2, "]");
       },
       [](char *text, std::uint32_t) {
-        text = fmt::format_to(text, "[ ");
+        text = fmt::format_to(text, FMT_COMPILE("[ "));
         for (const char *name : capability_names) {
-          text = fmt::format_to(text, "{} ", name);
+          text = fmt::format_to(text, FMT_COMPILE("{} "), name);
         }
-        return fmt::format_to(text, "]");
+        return fmt::format_to(text, FMT_COMPILE("]"));
       });
   const auto channels = sampled([](auto &random) {
     ravix_channel_info_t info;
@@ -211,98 +224,58 @@ void register_formatters() {
                               std::array<std::uint16_t, 4>{1, 2, 4, 16}[random() % 4], false, 0, &info);
     return info;
   });
-  const auto label = [](const ravix_channel_info_t &info) {
-    switch (info.channel_width) {
-    case RAVIX_CHANNEL_WIDTH_20:
-      return "20";
-    case RAVIX_CHANNEL_WIDTH_40:
-      return "40";
-    case RAVIX_CHANNEL_WIDTH_80:
-      return "80";
-    case RAVIX_CHANNEL_WIDTH_160:
-      return "160";
-    case RAVIX_CHANNEL_WIDTH_320:
-      return "320";
-    default:
-      return "INV";
-    }
+  const auto numbers = [](const ravix_channel_info_t &info) {
+    std::pair<std::uint32_t, std::uint32_t> ends;
+    ravix_channel_info_to_lowest_and_highest_channel(&info, &ends.first, &ends.second);
+    return ends;
   };
-  compare(
-      "channel_info", channels, [](const ravix_channel_info_t &info) { return ravix_str_channel_info(&info); },
-      [=](char *text, const ravix_channel_info_t &info) {
-        std::uint32_t lowest = 0;
-        std::uint32_t highest = 0;
-        ravix_channel_info_to_lowest_and_highest_channel(&info, &lowest, &highest);
-        snprintf(text, 512, "%4u/%4u/%3s/%04x/%3u-%3u", info.primary_freq / 1000, info.center_freq / 1000, label(info),
-                 info.puncture_map, lowest, highest);
+  text_row(
+      "channel_info", channels, [](auto &info) { return ravix_str_channel_info(&info); },
+      [=](char *text, auto &info) {
+        const auto [lowest, highest] = numbers(info);
+        snprintf(text, longest, "%4u/%4u/%3s/%04x/%3u-%3u", info.primary_freq / 1000, info.center_freq / 1000,
+                 width_label(info), info.puncture_map, lowest, highest);
       },
-      [=](char *text, const ravix_channel_info_t &info) {
-        std::uint32_t lowest = 0;
-        std::uint32_t highest = 0;
-        ravix_channel_info_to_lowest_and_highest_channel(&info, &lowest, &highest);
-        return fmt::format_to(text, "{:4}/{:4}/{:>3}/{:04x}/{:3}-{:3}", info.primary_freq / 1000,
-                              info.center_freq / 1000, label(info), info.puncture_map, lowest, highest);
+      [=](char *text, auto &info) {
+        const auto [lowest, highest] = numbers(info);
+        return fmt::format_to(text, FMT_COMPILE("{:4}/{:4}/{:>3}/{:04x}/{:3}-{:3}"), info.primary_freq / 1000,
+                              info.center_freq / 1000, width_label(info), info.puncture_map, lowest, highest);
       });
 }
 
 void register_parsers() {
-  const auto macs = sampled([](auto &random) {
-    std::array<char, 18> text{};
-    snprintf(text.data(), text.size(), "%02X:%02X:%02X:%02X:%02X:%02X", static_cast<unsigned>(random() & 255),
-             static_cast<unsigned>(random() & 255), static_cast<unsigned>(random() & 255),
-             static_cast<unsigned>(random() & 255), static_cast<unsigned>(random() & 255),
-             static_cast<unsigned>(random() & 255));
-    return text;
-  });
-  measure("mac_from_str/ravix", macs, [](const auto &text) {
-    std::uint8_t o[6];
-    benchmark::DoNotOptimize(ravix_mac_from_str(text.data(), o));
-    benchmark::DoNotOptimize(o);
-  });
-  measure("mac_from_str/sscanf", macs, [](const auto &text) {
-    std::uint8_t o[6];
-    benchmark::DoNotOptimize(
-        sscanf(text.data(), "%02hhx:%02hhx:%02hhx:%02hhx:%02hhx:%02hhx", o, o + 1, o + 2, o + 3, o + 4, o + 5));
-    benchmark::DoNotOptimize(o);
-  });
-  const auto uuids = sampled([](auto &random) {
-    std::array<char, 37> text{};
-    std::array<std::uint8_t, 16> octets;
-    for (std::uint8_t &octet : octets) {
-      octet = static_cast<std::uint8_t>(random());
-    }
-    snprintf(text.data(), text.size(), "%s", ravix_str_uuid(octets.data()));
-    return text;
-  });
-  measure("uuid_from_str/ravix", uuids, [](const auto &text) {
-    std::uint8_t o[16];
-    benchmark::DoNotOptimize(ravix_uuid_from_str(text.data(), o));
-    benchmark::DoNotOptimize(o);
-  });
-  measure("uuid_from_str/sscanf", uuids, [](const auto &text) {
-    std::uint8_t o[16];
-    benchmark::DoNotOptimize(sscanf(text.data(),
-                                    "%02hhx%02hhx%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-%02hhx%02hhx-"
-                                    "%02hhx%02hhx%02hhx%02hhx%02hhx%02hhx",
-                                    o, o + 1, o + 2, o + 3, o + 4, o + 5, o + 6, o + 7, o + 8, o + 9, o + 10, o + 11,
-                                    o + 12, o + 13, o + 14, o + 15));
-    benchmark::DoNotOptimize(o);
-  });
-  const auto names = sampled([](auto &random) {
-    return std::array{"ap_home", "AP_GUEST", "Repeater", "ap_hotspot_owe", "AP_HOME_OWE", "ATACLIENT"}[random() % 6];
-  });
-  measure("role_opmode_from_str/ravix", names, [](const char *text) {
-    std::uint8_t value = 0;
-    benchmark::DoNotOptimize(ravix_role_opmode_from_str(text, &value));
-    benchmark::DoNotOptimize(value);
-  });
-  measure("role_opmode_from_str/plain", names, [](const char *text) {
-    std::uint8_t value = 0;
-    benchmark::DoNotOptimize(plain_role_opmode(text, &value));
-    benchmark::DoNotOptimize(value);
-  });
+  const auto octets_row = [](const char *name, auto octets, auto format, auto ours, const char *scan) {
+    using Octets = decltype(octets);
+    const auto texts = sampled([=](auto &random) { return std::string(format(random_octets<Octets>(random).data())); });
+    row(name, texts,
+        way{"ravix",
+            [=](const std::string &text) {
+              Octets read;
+              benchmark::DoNotOptimize(ours(text.c_str(), read.data()));
+              keep(read);
+            }},
+        way{"sscanf", [=](const std::string &text) {
+              Octets read;
+              spread<std::tuple_size_v<Octets>>(read, [&](auto &...o) {
+                benchmark::DoNotOptimize(sscanf(text.c_str(), scan, &o...)); // NOLINT(cert-err34-c)
+              });
+              keep(read);
+            }});
+  };
+  octets_row("parse_mac", std::array<std::uint8_t, 6>{}, ravix_str_mac, ravix_mac_from_str, mac_scan);
+  octets_row("parse_uuid", std::array<std::uint8_t, 16>{}, ravix_str_uuid, ravix_uuid_from_str, uuid_scan);
+  const auto parsed_by = [](auto parse) {
+    return [=](const char *text) {
+      std::uint8_t value = 0;
+      benchmark::DoNotOptimize(parse(text, &value));
+      benchmark::DoNotOptimize(value);
+    };
+  };
+  row("parse_name", sampled([](auto &random) {
+        return std::array{
+            "ap_home", "AP_GUEST", "Repeater", "ap_hotspot_owe", "AP_HOME_OWE", "ATACLIENT"}[random() % 6];
+      }),
+      way{"ravix", parsed_by(ravix_role_opmode_from_str)}, way{"plain", parsed_by(plain_role_opmode)});
 }
 
-const bool registered = (register_formatters(), register_parsers(), true);
-
-} // namespace
+} // namespace bench

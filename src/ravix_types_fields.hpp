@@ -14,6 +14,7 @@
 //
 //   copyable(src)                 tells whether the value may be copied
 //   transfer(src, dest)           copies a copyable value over whatever dest holds
+//   settle(src, dest)             the rest of that where dest has the bytes of src already: empties those past the end
 //
 // A new kind is a new class here or beside the family that needs it, never a case in the operations below.
 #pragma once
@@ -22,6 +23,7 @@
 #include "ravix_types_generic_table.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -80,8 +82,14 @@ template <class R> bool copyable_fields(const R &src) {
   return all_fields<R>([&](const auto &field) { return field.copyable(src); });
 }
 
+template <class R> void settle_fields(const R &src, R &dest) {
+  for_each_field<R>([&](const auto &field) { field.settle(src, dest); });
+}
+
+// A few wide moves instead of one or two for each field.
 template <class R> void transfer_fields(const R &src, R &dest) {
-  for_each_field<R>([&](const auto &field) { field.transfer(src, dest); });
+  dest = src;
+  settle_fields(src, dest);
 }
 
 template <class R> int compare_fields(const R &a, const R &b) {
@@ -213,6 +221,7 @@ struct plain_kind {
   const char *name;
 
   template <class R> static bool copyable(const R & /*src*/) { return true; }
+  template <class R> static void settle(const R & /*src*/, R & /*dest*/) {}
 };
 
 // Copy of a flat field, in terms of its transfer.
@@ -257,9 +266,33 @@ template <class R, std::size_t N> struct bytes : plain_kind {
   void clear(R &r, call_site /*site*/) const { std::memset(r.*member, 0, N); }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const { std::memcpy(dest.*member, src.*member, N); }
-  int compare(const R &a, const R &b) const { return std::memcmp(a.*member, b.*member, N); }
+  int compare(const R &a, const R &b) const {
+    // Most are alike, and for that a comparison of fixed size is a few instructions instead of a call.
+    return std::memcmp(a.*member, b.*member, N) == 0 ? 0 : std::memcmp(a.*member, b.*member, N);
+  }
   template <class Out> void print(Out &out, const R &r) const { out.text(text(r.*member)); }
 };
+
+// Copies the first `used` of N octets and makes the rest 0. In words under a mask, since the lengths of SSIDs follow no
+// pattern: a call with such a length costs more than all else of a scan entry's copy.
+template <std::size_t N> void copy_used(const std::uint8_t *src, std::uint8_t *dest, std::size_t used) {
+  static constexpr auto mask = [] {
+    std::array<std::uint8_t, 2 * N> octets{};
+    std::fill_n(octets.begin(), N, std::uint8_t{UINT8_MAX});
+    return octets;
+  }();
+  const std::uint8_t *kept = &mask[N - used];
+  std::size_t i = 0;
+  for (std::uintptr_t octets = 0, kept_octets = 0; i + sizeof octets <= N; i += sizeof octets) {
+    std::memcpy(&octets, src + i, sizeof octets);
+    std::memcpy(&kept_octets, kept + i, sizeof octets);
+    octets &= kept_octets;
+    std::memcpy(dest + i, &octets, sizeof octets);
+  }
+  for (; i < N; ++i) {
+    dest[i] = src[i] & kept[i];
+  }
+}
 
 // A count of octets and the octets, in an array one larger than the most that count.
 template <class R, std::size_t N> struct counted_bytes : plain_kind {
@@ -282,11 +315,10 @@ template <class R, std::size_t N> struct counted_bytes : plain_kind {
   bool copyable(const R &src) const { return src.*length < N; }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const {
-    const std::size_t used = src.*length;
     dest.*length = src.*length;
-    std::memcpy(dest.*octets, src.*octets, N);
-    std::memset(&(dest.*octets)[used], 0, N - used);
+    settle(src, dest);
   }
+  void settle(const R &src, R &dest) const { copy_used<N>(src.*octets, dest.*octets, src.*length); }
   int compare(const R &a, const R &b) const {
     if (a.*length != b.*length) {
       return a.*length < b.*length ? -1 : 1;
@@ -309,6 +341,10 @@ template <class R, std::size_t N> struct bounded_text : plain_kind {
     std::memcpy(dest.*member, used.data(), used.size());
     std::memset(&(dest.*member)[used.size()], 0, N - used.size());
   }
+  void settle(const R &src, R &dest) const {
+    const std::size_t used = std::min(view(src).size(), N - 1);
+    std::memset(&(dest.*member)[used], 0, N - used);
+  }
   int compare(const R &a, const R &b) const { return std::strncmp(a.*member, b.*member, N); }
   template <class Out> void print(Out &out, const R &r) const { out.text(view(r)); }
 
@@ -316,7 +352,8 @@ private:
   // The text up to its terminator, or all of the array if it has none.
   std::string_view view(const R &r) const {
     const char *text = r.*member;
-    return {text, static_cast<std::size_t>(std::find(text, text + N, '\0') - text)};
+    const void *end = std::memchr(text, '\0', N);
+    return {text, end != nullptr ? static_cast<std::size_t>(static_cast<const char *>(end) - text) : N};
   }
 };
 
@@ -362,11 +399,12 @@ template <class R, class T> struct nested {
     }
   }
   failure copy(const R &src, R &dest, call_site /*site*/) const {
-    const int code = record<T>::copy(&(src.*member), &(dest.*member));
+    const int code = element<T>::copy(&(src.*member), &(dest.*member));
     return code == success ? failure{} : copy_error(code);
   }
   bool copyable(const R &src) const { return copyable_fields(src.*member); }
   void transfer(const R &src, R &dest) const { transfer_fields(src.*member, dest.*member); }
+  void settle(const R &src, R &dest) const { settle_fields(src.*member, dest.*member); }
   int compare(const R &a, const R &b) const { return record<T>::compare(&(a.*member), &(b.*member)); }
   template <class Out> void print(Out &out, const R &r) const { out.value(r.*member); }
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool /*newline*/) const {

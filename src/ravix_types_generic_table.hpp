@@ -174,7 +174,9 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   if constexpr (plain_table<T>) {
     std::memcpy(slot, entry, sizeof(E));
   } else {
-    std::memset(static_cast<void *>(slot), 0, sizeof(E));
+    if constexpr (!element<E>::is_flat) {
+      std::memset(static_cast<void *>(slot), 0, sizeof(E));
+    }
     if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
       log_error({family, __func__}, {"Copy error!"});
       std::memset(static_cast<void *>(slot), 0, sizeof(E));

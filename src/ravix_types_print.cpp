@@ -106,9 +106,17 @@ void printer::label(const char *name, const char *after, unsigned indent) {
 }
 
 void printer::index(std::uint32_t i, std::uint32_t count) {
-  text("[");
-  decimal(i, digits_of<12>(count - 1).size);
-  text("]: ");
+  std::size_t width = 1;
+  for (std::uint32_t highest = count - 1; highest >= 10; highest /= 10) {
+    ++width;
+  }
+  char piece[16] = "[";
+  std::memset(piece + 1, ' ', 10);
+  for (std::size_t at = width; at == width || i != 0; --at, i /= 10) {
+    piece[at] = static_cast<char>('0' + i % 10);
+  }
+  std::memcpy(piece + width + 1, "]: ", 3);
+  text({piece, width + 4});
 }
 
 void printer::header(const char *word, std::uint32_t i) {

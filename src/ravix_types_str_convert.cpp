@@ -123,6 +123,28 @@ template <std::size_t Width> char *put_padded(char *out, std::uint32_t value) {
   return put_number(out + blanks, value);
 }
 
+// The digits of each octet, and at the end how many they are.
+constexpr auto octet_digits = [] {
+  std::array<char, 1024> text{};
+  for (std::size_t octet = 0; octet < 256; ++octet) {
+    std::size_t at = 4 * octet;
+    for (std::size_t power = 100; power > 0; power /= 10) {
+      if (octet >= power || power == 1) {
+        text[at++] = static_cast<char>('0' + octet / power % 10);
+      }
+    }
+    text[4 * octet + 3] = static_cast<char>(at - 4 * octet);
+  }
+  return text;
+}();
+
+// "%u"; writes up to 4 characters.
+char *put_number(char *out, std::uint8_t octet) {
+  const char *text = &octet_digits[std::size_t{4} * octet];
+  std::memcpy(out, text, 4);
+  return out + text[3];
+}
+
 constexpr char upper_hex[] = "0123456789ABCDEF";
 constexpr char lower_hex[] = "0123456789abcdef";
 
@@ -376,7 +398,7 @@ const char *ravix_str_ip_addr(const ravix_ip_addr_t *value) {
   case RAVIX_IP_VERSION_4:
     return build_text<4 * digits>([&](char *out) {
       for (unsigned i = 0; i < 4; ++i) {
-        out = put_number(out, uint32_t{octet[i]});
+        out = put_number(out, octet[i]);
         *out++ = '.';
       }
       return out - 1;

@@ -6,36 +6,19 @@
 
 namespace {
 
-void *default_allocate_zeroed(void * /*context*/, size_t count, size_t size, const char * /*file*/, int /*line*/) {
-  return std::calloc(count, size);
-}
-
-void *default_resize(void * /*context*/, void *ptr, size_t size, const char * /*file*/, int /*line*/) {
-  return std::realloc(ptr, size);
-}
-
-void default_release(void * /*context*/, void *ptr, const char * /*file*/, int /*line*/) {
-  std::free(ptr);
-}
-
-constexpr slab_host_allocator default_allocator{nullptr, default_allocate_zeroed, default_resize, default_release};
-
-constinit std::atomic<const slab_host_allocator *> current{&default_allocator};
-
-const slab_host_allocator &allocator() {
-  return *current.load(std::memory_order_acquire);
-}
+// The host's allocator; null for the C library's, which is called without a detour.
+constinit std::atomic<const slab_host_allocator *> current{nullptr};
 
 } // namespace
 
 void *slab_dcalloc(size_t count, size_t size, const char *file, int line) {
-  const auto &host = allocator();
-  return host.allocate_zeroed(host.context, count, size, file, line);
+  const slab_host_allocator *host = current.load(std::memory_order_acquire);
+  return host == nullptr ? std::calloc(count, size) : host->allocate_zeroed(host->context, count, size, file, line);
 }
 
 void *slab_drealloc(void *ptr, size_t size, const char *file, int line) {
-  const auto &host = allocator();
-  return host.resize(host.context, ptr, size, file, line);
+  const slab_host_allocator *host = current.load(std::memory_order_acquire);
+  return host == nullptr ? std::realloc(ptr, size) : host->resize(host->context, ptr, size, file, line);
 }
 
 char *slab_dstrdup(const char *text, const char *file, int line) {
@@ -48,12 +31,14 @@ char *slab_dstrdup(const char *text, const char *file, int line) {
 }
 
 void slab_cbcontext_free(void *ptr, const char *file, int line) {
-  if (ptr != nullptr) {
-    const auto &host = allocator();
-    host.release(host.context, ptr, file, line);
+  const slab_host_allocator *host = current.load(std::memory_order_acquire);
+  if (host == nullptr) {
+    std::free(ptr);
+  } else if (ptr != nullptr) {
+    host->release(host->context, ptr, file, line);
   }
 }
 
 void slab_host_set_allocator(const slab_host_allocator *host) {
-  current.store(host != nullptr ? host : &default_allocator, std::memory_order_release);
+  current.store(host, std::memory_order_release);
 }

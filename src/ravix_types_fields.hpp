@@ -30,6 +30,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 namespace zel::ravix {
 
@@ -82,12 +83,12 @@ template <class R> bool copyable_fields(const R &src) {
   return all_fields<R>([&](const auto &field) { return field.copyable(src); });
 }
 
-template <class R> void settle_fields(const R &src, R &dest) {
+template <class R> inline void settle_fields(const R &src, R &dest) {
   for_each_field<R>([&](const auto &field) { field.settle(src, dest); });
 }
 
 // A few wide moves instead of one or two for each field.
-template <class R> void transfer_fields(const R &src, R &dest) {
+template <class R> inline void transfer_fields(const R &src, R &dest) {
   dest = src;
   settle_fields(src, dest);
 }
@@ -273,24 +274,30 @@ template <class R, std::size_t N> struct bytes : plain_kind {
   template <class Out> void print(Out &out, const R &r) const { out.text(text(r.*member)); }
 };
 
-// Copies the first `used` of N octets and makes the rest 0. In words under a mask, since the lengths of SSIDs follow no
-// pattern: a call with such a length costs more than all else of a scan entry's copy.
-template <std::size_t N> void copy_used(const std::uint8_t *src, std::uint8_t *dest, std::size_t used) {
+// Copies the first `used` of N octets and makes the rest 0. In blocks under a mask, since the lengths of SSIDs follow
+// no pattern: a call with such a length costs more than all else of a scan entry's copy.
+template <std::size_t N>
+[[gnu::always_inline]] inline void copy_used(const std::uint8_t *src, std::uint8_t *dest, std::size_t used) {
   static constexpr auto mask = [] {
     std::array<std::uint8_t, 2 * N> octets{};
     std::fill_n(octets.begin(), N, std::uint8_t{UINT8_MAX});
     return octets;
   }();
+  using block [[gnu::vector_size(16)]] = std::uint8_t;
   const std::uint8_t *kept = &mask[N - used];
-  std::size_t i = 0;
-  for (std::uintptr_t octets = 0, kept_octets = 0; i + sizeof octets <= N; i += sizeof octets) {
-    std::memcpy(&octets, src + i, sizeof octets);
-    std::memcpy(&kept_octets, kept + i, sizeof octets);
+  const auto copy_masked = [&]<class Block>(std::size_t at, Block octets) {
+    Block kept_octets;
+    std::memcpy(&octets, src + at, sizeof octets);
+    std::memcpy(&kept_octets, kept + at, sizeof octets);
     octets &= kept_octets;
-    std::memcpy(dest + i, &octets, sizeof octets);
+    std::memcpy(dest + at, &octets, sizeof octets);
+  };
+  [&]<std::size_t... i>(std::index_sequence<i...>) {
+    (copy_masked(i * sizeof(block), block{}), ...);
   }
-  for (; i < N; ++i) {
-    dest[i] = src[i] & kept[i];
+  (std::make_index_sequence<N / sizeof(block)>{});
+  for (std::size_t i = N / sizeof(block) * sizeof(block); i < N; ++i) {
+    copy_masked(i, std::uint8_t{});
   }
 }
 

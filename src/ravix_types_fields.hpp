@@ -446,8 +446,8 @@ template <class R, class T> struct owned : owning_kind {
     return dest.*member != nullptr ? failure{} : copy_error(out_of_memory);
   }
   int compare(const R &a, const R &b) const { return record<T>::compare(a.*member, b.*member); }
-  template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool /*newline*/) const {
-    out.diff_pointee(r.*member, ref != nullptr, ref != nullptr ? ref->*member : nullptr, name, indent);
+  template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool newline) const {
+    out.diff_pointee(r.*member, ref != nullptr, ref != nullptr ? ref->*member : nullptr, name, indent, newline);
   }
 };
 

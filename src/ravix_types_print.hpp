@@ -158,14 +158,15 @@ public:
     text(newline ? "\n" : "");
   }
 
-  // A record that is owned by pointer; null shows as such where it tells something.
-  template <class T> void diff_pointee(const T *value, bool has_ref, const T *ref, const char *name, unsigned indent) {
+  // A record that is owned by pointer, which ends its own lines; null is a line of the field where it tells something.
+  template <class T>
+  void diff_pointee(const T *value, bool has_ref, const T *ref, const char *name, unsigned indent, bool newline) {
     if (value != nullptr) {
       diff(*value, ref, name, indent, true);
     } else if (!has_ref || ref != nullptr) {
       label(name, ": ", indent);
       text(null_text);
-      text("\n");
+      text(newline ? "\n" : "");
     }
   }
 

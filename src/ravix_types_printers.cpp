@@ -128,9 +128,13 @@ template <class T> void labelled(printer &out, const char *label, const T *value
 namespace zel {
 
 // The copy stands on the stream's buffer: one without a buffer is born bad, and taking over the mask of a stream that
-// throws would then throw right here.
+// throws would then throw right here. A stream that has lost its buffer meanwhile has such a copy nonetheless; the mask
+// is the last that is taken over, so nothing is missing then.
 ios_copyfmt::ios_copyfmt(std::basic_ios<char> &stream) : stream_(stream), saved_(stream.rdbuf()) {
-  saved_.copyfmt(stream);
+  try {
+    saved_.copyfmt(stream);
+  } catch (const std::ios_base::failure &) { // NOLINT(bugprone-empty-catch): see above
+  }
 }
 
 ios_copyfmt::~ios_copyfmt() {

@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <random>
 #include <span>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <typeinfo>
 
@@ -20,24 +22,36 @@ using zel::ravix::record;
 
 class randomness {
 public:
-  explicit randomness(unsigned seed) : engine_(seed) {}
+  // When tame, numbers and octets are small, so that most enumerated values have names.
+  explicit randomness(unsigned seed, bool tame = false) : tame_(tame), engine_(seed) {}
   // Chosen by the octets, as far as they go.
-  explicit randomness(std::span<const std::uint8_t> chosen) : engine_(0), chosen_(chosen) {}
+  explicit randomness(std::span<const std::uint8_t> chosen) : tame_(false), engine_(0), chosen_(chosen) {}
 
-  // Evenly from 0 to `most`.
+  // From 0 to `most`, the same on every platform.
   [[gnu::noinline]] std::uint32_t up_to(std::uint32_t most) { // inlined, it leads g++ 12 to a warning without reason
+    std::uint64_t next = 0;
     if (chosen_.empty()) {
-      return std::uniform_int_distribution<std::uint32_t>(0, most)(engine_);
+      next = engine_();
+    } else {
+      next = chosen_.front();
+      chosen_ = chosen_.subspan(1);
     }
-    const std::uint32_t next = chosen_.front();
-    chosen_ = chosen_.subspan(1);
-    return most == UINT8_MAX ? next : next % (most + 1);
+    return static_cast<std::uint32_t>(next % (most + std::uint64_t{1}));
+  }
+  template <class T> T number() {
+    T value = static_cast<T>(1);
+    if (tame_) {
+      value = static_cast<T>(value + static_cast<T>(up_to(9)));
+    } else {
+      bytes(&value, sizeof value);
+    }
+    return value;
   }
   bool once_in(std::uint32_t n) { return up_to(n - 1) == 0; }
 
   void bytes(void *memory, std::size_t size) {
     for (std::size_t i = 0; i < size; ++i) {
-      static_cast<unsigned char *>(memory)[i] = static_cast<unsigned char>(up_to(255));
+      static_cast<unsigned char *>(memory)[i] = static_cast<unsigned char>(tame_ ? 1 + up_to(9) : up_to(255));
     }
   }
 
@@ -50,6 +64,7 @@ public:
   }
 
 private:
+  bool tame_;
   std::mt19937 engine_;
   std::span<const std::uint8_t> chosen_;
 };
@@ -63,6 +78,8 @@ void fill(const zel::ravix::scalar<R, T, Text> &field, R &r, randomness &random)
     r.*field.member = random.once_in(2);
   } else if constexpr (std::is_floating_point_v<T>) {
     r.*field.member = static_cast<T>(random.up_to(10000)) / T{8};
+  } else if constexpr (std::is_integral_v<T>) {
+    r.*field.member = random.template number<T>();
   } else {
     random.bytes(&(r.*field.member), sizeof(T));
   }
@@ -82,6 +99,21 @@ template <class R, std::size_t N> void fill(const zel::ravix::counted_bytes<R, N
   r.*field.length = static_cast<std::uint8_t>(random.up_to(N - 1));
   std::memset(r.*field.octets, 0, N);
   random.bytes(r.*field.octets, r.*field.length);
+}
+// Secrets begin with a mark that nothing else has, so that it can be looked for in outputs.
+inline constexpr char secret_mark[] = "ZZZZ";
+inline constexpr std::size_t secret_mark_length = sizeof secret_mark - 1;
+template <class R, std::size_t N>
+void fill(const zel::ravix::secret<zel::ravix::bounded_text<R, N>> &field, R &r, randomness &random) {
+  const std::string text = secret_mark + random.word(N - 1 - secret_mark_length);
+  std::memset(r.*field.member, 0, N);
+  std::memcpy(r.*field.member, text.data(), text.size());
+}
+template <class R, std::size_t N>
+void fill(const zel::ravix::secret<zel::ravix::counted_bytes<R, N>> &field, R &r, randomness &random) {
+  fill(static_cast<const zel::ravix::counted_bytes<R, N> &>(field), r, random);
+  r.*field.length = std::max(r.*field.length, static_cast<std::uint8_t>(secret_mark_length));
+  std::memcpy(r.*field.octets, secret_mark, secret_mark_length);
 }
 template <class R, class T> void fill(const zel::ravix::nested<R, T> &field, R &r, randomness &random) {
   fill(r.*field.member, random);
@@ -130,15 +162,22 @@ template <class E> void fill_element(E &element, randomness &random) {
   } else if constexpr (std::is_same_v<E, char *>) {
     element = random_text(random);
   } else {
-    random.bytes(&element, sizeof element);
+    if constexpr (std::is_integral_v<E>) {
+      element = random.template number<E>();
+    } else {
+      random.bytes(&element, sizeof element);
+    }
+  }
+}
+template <class T> void fill_table(T &table, std::uint32_t count, randomness &random) {
+  record<T>::init(&table, count);
+  for (std::uint32_t i = 0; i < table.count; ++i) {
+    fill_element(table.data[i], random);
   }
 }
 template <class T, class E, class Text>
 void fill(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
-  record<T>::init(&table, random.up_to(3));
-  for (std::uint32_t i = 0; i < table.count; ++i) {
-    fill_element(table.data[i], random);
-  }
+  fill_table(table, random.up_to(3), random);
 }
 
 // Makes a random record one that its own rules accept.
@@ -234,14 +273,19 @@ template <class R> struct sample {
   R value;
 
   sample() : value() { record<R>::clear(&value); }
-  explicit sample(auto seed) : sample() {
-    randomness random(seed);
+  explicit sample(auto seed, auto... tame) : sample() {
+    randomness random(seed, tame...);
     fill(value, random);
   }
   ~sample() { record<R>::clear(&value); }
   sample(const sample &) = delete;
   sample &operator=(const sample &) = delete;
 };
+
+template <class R> std::string name_of() {
+  const std::string_view mangled = typeid(R).name(); // the length of the name, and the name
+  return std::string(mangled.substr(mangled.find_first_not_of("0123456789")));
+}
 
 template <class... R, class Check> void for_all(type_list<R...> /*records*/, Check check) {
   const auto run = [&]<class T>(T * /*type*/) {

@@ -1,460 +1,225 @@
 // What is special in the configuration records: fields that another field tells apart, and odd comparisons.
+#include "golden.hpp"
 #include "harness.hpp"
-
-#include "ravix_types_cfg_fields.hpp"
+#include "record_tools.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string>
-#include <type_traits>
-#include <vector>
 
 namespace {
 
+using harness::sample;
 using zel::ravix::record;
-using texts = std::vector<std::string>;
-
-// An empty record that is cleared when the test is done with it.
-template <class R> struct local {
-  R r{};
-  local() { record<R>::clear(&r); }
-  ~local() { record<R>::clear(&r); }
-  local(const local &) = delete;
-  local &operator=(const local &) = delete;
-};
 
 int sign(int order) {
   return (order > 0) - (order < 0);
 }
 
-// The lines logged since the last call, as "module function: text".
-texts taken(harness::captured_log &log) {
-  texts all;
+// A result and the lines logged since the last call. `raw`, which is unlike in every line, is shown as "<tag>".
+std::string told(std::string all, harness::captured_log &log, const std::string &raw) {
   for (const harness::log_line &line : log.take()) {
-    EXPECT_TRUE(line.file == "src/ravix_types_cfg" || line.file == "src/ravix_types_common") << line.file;
-    all.push_back((line.name == "ravix" ? "ravix " : "default ") + line.function + ": " + line.text);
+    all += "\n  " + line.name + " " + line.file + " " + line.function + ": " + line.text;
+    if (const std::size_t at = all.rfind("'" + raw + "'"); at != std::string::npos) {
+      all.replace(at + 1, raw.size(), "<tag>");
+    }
   }
   return all;
 }
 
-texts operator+(texts a, const texts &b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
-// ---- rule for automatic updates
-
-using rule = ravix_cfg_auto_update_rule_t;
-
-// Every 8-bit type, and wider ones that end like the real types.
-std::vector<std::uint32_t> rule_types() {
-  std::vector<std::uint32_t> types;
-  for (std::uint32_t type = 0; type <= UINT8_MAX; ++type) {
-    types.push_back(type);
+// What is told of each tag, with runs of tags of which the same is told put together.
+class told_by_tag {
+public:
+  void add(std::uint32_t tag, const std::string &text) {
+    if (text != text_) {
+      finish();
+      first_ = tag;
+    }
+    last_ = tag;
+    text_ = text;
   }
-  for (const std::uint32_t type : {0x100U, 0x101U, 0x102U, 0x80000001U, 0xFFFFFFFFU}) {
-    types.push_back(type);
+  void expect(const std::string &name) {
+    finish();
+    sections_.expect(name);
   }
-  return types;
-}
 
-rule make_rule(std::uint32_t type, bool enabled = true, std::uint64_t payload = 0) {
-  rule made{};
-  made.enabled = enabled;
-  made.type = type;
-  if (type == RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE) {
-    made.auto_update_role_opmode.role_opmode = static_cast<std::uint8_t>(payload);
-  } else {
-    made.auto_update_features.feature = payload;
-  }
-  return made;
-}
-
-texts rejected_rule(const char *operation, std::uint32_t type) {
-  const std::string function = std::string(" ravix_cfg_auto_update_rule_") + operation;
-  return {"ravix" + function + ": Invalid update rule type '" + std::to_string(type) + "'",
-          "default" + function + ": ASSERT: !\"Invalid update rule type\""};
-}
-
-bool is_empty(const rule &r) {
-  return !r.enabled && r.type == 0 && r.auto_update_features.feature == 0;
-}
-
-TEST(AutoUpdateRule, ClearEmptiesEveryTypeAndTellsOfUnknownOnes) {
-  harness::captured_log log;
-  for (const std::uint32_t type : rule_types()) {
-    rule r{};
-    r.enabled = true;
-    r.type = type;
-    r.auto_update_features.feature = UINT64_MAX;
-    ravix_cfg_auto_update_rule_clear(&r);
-    EXPECT_TRUE(is_empty(r)) << type;
-    EXPECT_EQ(taken(log), type > 2 ? rejected_rule("clear", type) : texts{});
-  }
-}
-
-TEST(AutoUpdateRule, CopyTakesTheTwoRealTypesOnly) {
-  harness::captured_log log;
-  for (const std::uint32_t type : rule_types()) {
-    rule src{};
-    src.enabled = true;
-    src.type = type;
-    src.auto_update_features.feature = 0x0706050403020101;
-    src.auto_update_role_opmode.role_opmode = RAVIX_ROLE_OPMODE_REPEATER;
-    rule dest = make_rule(RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE, true, UINT64_MAX);
-    const int code = ravix_cfg_auto_update_rule_copy(&src, &dest);
-    if (type == 1 || type == 2) {
-      EXPECT_EQ(code, 0);
-      EXPECT_EQ(taken(log), texts{});
-      EXPECT_EQ(ravix_cfg_auto_update_rule_compare(&src, &dest), 0);
-      // Only what the type says is taken over: octets beside a role's mode stay behind.
-      const rule wanted = make_rule(type, true, type == 1 ? 6 : src.auto_update_features.feature);
-      EXPECT_EQ(dest.auto_update_features.feature, wanted.auto_update_features.feature);
-    } else {
-      EXPECT_EQ(code, -22) << type;
-      EXPECT_TRUE(is_empty(dest)) << type;
-      EXPECT_EQ(taken(log), rejected_rule("copy", type) + (type > 2 ? rejected_rule("clear", type) : texts{}));
+private:
+  void finish() {
+    if (!text_.empty()) {
+      sections_.add(std::to_string(first_) + (first_ == last_ ? "" : " to " + std::to_string(last_)), text_);
     }
   }
-  // What the destination was is told of as by clear.
-  const rule src = make_rule(1, true, RAVIX_ROLE_OPMODE_AP_GUEST);
-  rule dest = make_rule(7);
-  EXPECT_EQ(ravix_cfg_auto_update_rule_copy(&src, &dest), 0);
-  EXPECT_EQ(taken(log), rejected_rule("clear", 7));
-  EXPECT_EQ(dest.auto_update_role_opmode.role_opmode, RAVIX_ROLE_OPMODE_AP_GUEST);
+
+  harness::golden_sections sections_;
+  std::uint32_t first_ = 0;
+  std::uint32_t last_ = 0;
+  std::string text_;
+};
+
+// Whether a copy's destination is the same, empty, or something else.
+template <class R> std::string outcome(int code, const R &src, const R &dest) {
+  return std::to_string(code) + (harness::difference(src, dest).empty()                 ? ", the same"
+                                 : harness::difference(dest, sample<R>().value).empty() ? ", empty"
+                                                                                        : ", neither");
 }
 
-TEST(AutoUpdateRule, AFreshRuleCannotBeCloned) {
+TEST(AutoUpdateRule, EveryOperationGoesByTheType) {
+  using rule = ravix_cfg_auto_update_rule_t;
   harness::captured_log log;
-  harness::heap heap;
-  local<rule> fresh;
-  EXPECT_EQ(ravix_cfg_auto_update_rule_clone(&fresh.r), nullptr);
-  EXPECT_EQ(taken(log), rejected_rule("copy", 0) + texts{"ravix generic_clone: Copy error!"});
-  EXPECT_EQ(heap.live(), 0U);
-}
-
-TEST(AutoUpdateRule, IsOrderedWithAndWithoutRegardToEnabled) {
-  struct {
-    const char *sentence;
-    rule a, b;
-    int order, key_order;
-  } const rows[] = {
-      {"enabled alone is no other key", make_rule(2, false, 5), make_rule(2, true, 5), -1, 0},
-      {"enabled decides over the type", make_rule(1, true), make_rule(2, false), 1, -1},
-      {"the type is unsigned", make_rule(1), make_rule(0x80000001), -1, -1},
-      {"modes are compared as modes", make_rule(1, true, 1), make_rule(1, true, 2), -1, -1},
-      {"features are one unsigned number", make_rule(2, true, 1), make_rule(2, true, UINT64_MAX), -1, -1},
-      {"their high half counts", make_rule(2, true, 0x100000000), make_rule(2, true, 0x200000000), -1, -1},
-      {"no type has no payload", make_rule(0, true, 1), make_rule(0, true, 2), 0, 0},
-      {"nor has an unknown one", make_rule(7, true, 1), make_rule(7, true, 2), 0, 0},
-      {"which is ordered by enabled", make_rule(7, false, 2), make_rule(7, true, 1), -1, 0},
-  };
-  for (const auto &row : rows) {
-    EXPECT_EQ(sign(ravix_cfg_auto_update_rule_compare(&row.a, &row.b)), row.order) << row.sentence;
-    EXPECT_EQ(sign(ravix_cfg_auto_update_rule_compare(&row.b, &row.a)), -row.order) << row.sentence;
-    EXPECT_EQ(sign(ravix_cfg_auto_update_rule_map_key_compare(&row.a, &row.b)), row.key_order) << row.sentence;
-    EXPECT_EQ(sign(ravix_cfg_auto_update_rule_map_key_compare(&row.b, &row.a)), -row.key_order) << row.sentence;
+  told_by_tag by_tag;
+  for (std::uint64_t next = 0; next <= UINT32_MAX; next += next < 0x110 ? 1 : 0x0FFFFFFF) {
+    const auto type = static_cast<std::uint32_t>(next);
+    const std::string tag = std::to_string(type);
+    const auto make = [&](bool enabled, std::uint64_t features, std::uint8_t mode) {
+      rule made{enabled, type, {}};
+      made.auto_update_features.feature = features;
+      if (type == RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE) { // the octets beside it do not count
+        made.auto_update_role_opmode.role_opmode = mode;
+      }
+      return made;
+    };
+    const auto orders = [&](const rule &a, const rule &b) {
+      EXPECT_EQ(sign(ravix_cfg_auto_update_rule_compare(&a, &b)), -sign(ravix_cfg_auto_update_rule_compare(&b, &a)));
+      return " " + std::to_string(sign(ravix_cfg_auto_update_rule_compare(&a, &b))) + "/" +
+             std::to_string(sign(ravix_cfg_auto_update_rule_map_key_compare(&a, &b)));
+    };
+    rule src = make(true, 0x8000000000000001, 6);
+    rule dest{true, RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE, {}};
+    dest.auto_update_features.feature = UINT64_MAX;
+    std::string text =
+        "order by enabled, features, mode, and next type:" + orders(make(false, 9, 9), make(true, 1, 1)) +
+        orders(make(true, 0x200000000, 6), src) + orders(make(true, 9, 1), make(true, 1, 200)) +
+        orders(make(true, 9, 9), rule{true, type ^ 0x80000000U, {}});
+    text += "\ncopy: " + told(outcome(ravix_cfg_auto_update_rule_copy(&src, &dest), src, dest), log, tag);
+    EXPECT_TRUE(dest.type != 1 || dest.auto_update_features.feature != src.auto_update_features.feature) << "beside it";
+    ravix_cfg_auto_update_rule_clear(&src);
+    EXPECT_EQ(harness::difference(src, rule{}), "");
+    by_tag.add(type, told(text + "\nclear:", log, tag));
   }
-  // Octets beside a mode are not part of it.
-  rule a = make_rule(2, true, UINT64_MAX);
-  rule b = make_rule(1, true, 3);
-  a.type = 1;
-  a.auto_update_role_opmode.role_opmode = 3;
-  EXPECT_EQ(ravix_cfg_auto_update_rule_compare(&a, &b), 0);
-
-  const auto key_compare = ravix_cfg_auto_update_rule_map_key_compare;
-  EXPECT_EQ(key_compare(nullptr, nullptr), 0);
-  EXPECT_EQ(key_compare(nullptr, &a), -1);
-  EXPECT_EQ(key_compare(&a, nullptr), 1);
+  by_tag.expect("cfg_rule_types");
+  const rule r{};
+  EXPECT_EQ(ravix_cfg_auto_update_rule_map_key_compare(nullptr, nullptr), 0);
+  EXPECT_EQ(ravix_cfg_auto_update_rule_map_key_compare(nullptr, &r), -1);
+  EXPECT_EQ(ravix_cfg_auto_update_rule_map_key_compare(&r, nullptr), 1);
 }
-
-// ---- role
 
 using role = ravix_cfg_role_static_t;
 
-enum class kind { none, ap, sta };
-
-kind kind_of(unsigned op_mode) {
-  if (op_mode >= 32) {
-    return kind::none;
-  }
-  return (0x786U >> op_mode & 1U) != 0 ? kind::ap : ((0x48U >> op_mode & 1U) != 0 ? kind::sta : kind::none);
-}
-
-// An access point with a filter of one address.
-ravix_cfg_role_config_ap_t *make_ap(std::uint8_t last_octet = 1) {
-  ravix_cfg_role_config_ap_t *ap = ravix_cfg_role_config_ap_create();
-  const ravix_mac_t mac{0x02, 0, 0, 0, 0, last_octet};
-  EXPECT_EQ(ravix_types_mac_table_add_entry(&ap->access_control.macs_filtered, &mac), 0);
-  return ap;
-}
-
-// Gives the role what its mode asks for; a role of no kind gets an access point that nobody else releases.
-void equip(role &r, std::uint8_t op_mode, std::uint8_t octet = 1) {
-  r.op_mode = op_mode;
-  if (kind_of(op_mode) == kind::sta) {
-    r.config_sta = ravix_cfg_role_config_sta_create();
-    r.config_sta->uplink.mac_master[5] = octet;
-  } else {
-    r.config_ap = make_ap(octet);
-  }
-}
-
-// Releases what a role of no kind holds.
-void strip(role &r) {
-  if (kind_of(r.op_mode) == kind::none) {
-    ravix_cfg_role_config_ap_free(r.config_ap);
-    r.config_ap = nullptr;
-  }
-}
-
-void expect_empty(const role &r) {
-  local<role> fresh;
-  EXPECT_EQ(ravix_cfg_role_compare(&r, &fresh.r), 0);
-  EXPECT_EQ(r.config_ap, nullptr);
-}
-
-template <class Test> void for_each_mode(Test test) {
+TEST(Role, EveryOperationGoesByTheMode) {
+  harness::captured_log log;
+  told_by_tag by_tag;
   for (unsigned mode = 0; mode <= UINT8_MAX; ++mode) {
-    SCOPED_TRACE(mode);
-    test(static_cast<std::uint8_t>(mode));
-  }
-}
-
-texts rejected_role(std::uint8_t op_mode) {
-  // Mode 0 ends the line.
-  const std::string shown = op_mode == 0 ? "" : std::string(1, static_cast<char>(op_mode)) + "'";
-  return {"ravix ravix_cfg_role_copy: Invalid opmode: '" + shown,
-          "default ravix_cfg_role_copy: ASSERT: !\"Invalid opmode\""};
-}
-
-TEST(Role, ClearReleasesWhatItsModeTellsOf) {
-  harness::captured_log log;
-  for_each_mode([&](std::uint8_t mode) {
+    const std::string tag(1, static_cast<char>(mode));
     harness::heap heap;
-    role r{};
-    r.id = 1;
-    equip(r, mode);
-    ravix_cfg_role_config_ap_t *kept = kind_of(mode) == kind::none ? r.config_ap : nullptr;
-    ravix_cfg_role_clear(&r);
-    expect_empty(r);
-    EXPECT_EQ(r.power_level, 255);
-    EXPECT_EQ(r.mac_address_index, INT32_MIN);
-    EXPECT_EQ(heap.live(), kept != nullptr ? 2U : 0U); // the access point and its filter
-    ravix_cfg_role_config_ap_free(kept);
-    EXPECT_EQ(heap.live(), 0U);
-  });
-  EXPECT_EQ(taken(log), texts{});
-}
-
-TEST(Role, CopyGoesByTheMode) {
-  harness::captured_log log;
-  for_each_mode([&](std::uint8_t mode) {
-    harness::heap heap;
-    {
-      local<role> src;
-      local<role> dest;
-      equip(src.r, mode, 9);
-      equip(dest.r, RAVIX_ROLE_OPMODE_AP_HOME); // to be released
-      const int code = ravix_cfg_role_copy(&src.r, &dest.r);
-      if (kind_of(mode) == kind::none) {
-        EXPECT_EQ(code, -22);
-        EXPECT_EQ(taken(log), rejected_role(mode));
-        expect_empty(dest.r);
-      } else {
-        EXPECT_EQ(code, 0);
-        EXPECT_EQ(taken(log), texts{});
-        EXPECT_EQ(ravix_cfg_role_compare(&src.r, &dest.r), 0);
-        EXPECT_NE(src.r.config_ap, dest.r.config_ap);
+    const auto equip = [](role &r, unsigned op_mode, std::uint8_t octet) {
+      r.op_mode = static_cast<std::uint8_t>(op_mode);
+      if (op_mode == RAVIX_ROLE_OPMODE_ATACLIENT || op_mode == RAVIX_ROLE_OPMODE_REPEATER) {
+        r.config_sta = ravix_cfg_role_config_sta_create();
+        r.config_sta->uplink.mac_master[5] = octet;
+      } else { // also a role of no kind, which must leave it alone
+        const ravix_mac_t mac{0x02, 0, 0, 0, 0, octet};
+        r.config_ap = ravix_cfg_role_config_ap_create();
+        EXPECT_EQ(ravix_types_mac_table_add_entry(&r.config_ap->access_control.macs_filtered, &mac), 0);
       }
-      strip(src.r);
+    };
+    sample<role> a;
+    sample<role> b;
+    sample<role> bare;
+    sample<role> dest;
+    equip(a.value, mode, 1);
+    equip(b.value, mode, 2);
+    equip(dest.value, RAVIX_ROLE_OPMODE_AP_HOME, 3); // to be released
+    bare.value.op_mode = static_cast<std::uint8_t>(mode);
+    const auto orders = [&] {
+      return std::to_string(sign(ravix_cfg_role_compare(&a.value, &b.value))) + " " +
+             std::to_string(sign(ravix_cfg_role_compare(&b.value, &a.value))) + " " +
+             std::to_string(sign(ravix_cfg_role_compare(&a.value, &bare.value)));
+    };
+    std::string text = "order by pointee, and to none: " + orders();
+    a.value.security.pmf_mode = 1;
+    text += "\norder by an earlier field: " + orders();
+    text += "\ncopy: " + told(outcome(ravix_cfg_role_copy(&a.value, &dest.value), a.value, dest.value), log, tag);
+    text += "\ncopy without pointee: " +
+            told(outcome(ravix_cfg_role_copy(&bare.value, &dest.value), bare.value, dest.value), log, tag);
+    const std::size_t blocks = heap.live();
+    ravix_cfg_role_config_ap_t *kept = a.value.config_ap;
+    ravix_cfg_role_clear(&a.value);
+    EXPECT_EQ(harness::difference(a.value, sample<role>().value), "");
+    text = told(text + "\nclear releases: " + std::to_string(blocks - heap.live()), log, tag);
+    if (blocks == heap.live()) {
+      ravix_cfg_role_config_ap_free(kept);
+      ravix_cfg_role_config_ap_free(b.value.config_ap);
     }
-    EXPECT_EQ(heap.live(), 0U);
-  });
+    by_tag.add(mode, text);
+  }
+  by_tag.expect("cfg_role_modes");
 }
 
-TEST(Role, CopyOfAnIncompleteRoleFailsWithItsOwnCode) {
-  for_each_mode([&](std::uint8_t mode) {
-    if (kind_of(mode) == kind::none) {
-      return;
-    }
-    harness::captured_log log;
-    local<role> src;
-    local<role> dest;
-    src.r.op_mode = mode;
-    equip(dest.r, RAVIX_ROLE_OPMODE_REPEATER);
-    EXPECT_EQ(ravix_cfg_role_copy(&src.r, &dest.r), -2147483647);
-    const std::string member = kind_of(mode) == kind::ap ? "config_ap" : "config_sta";
-    EXPECT_EQ(taken(log),
-              (texts{"default ravix_cfg_role_copy: ASSERT: nullptr != src->" + member,
-                     "ravix generic_clone: Invalid pointer 'old_obj'!", "ravix ravix_cfg_role_copy: Copy error!"}));
-    expect_empty(dest.r);
-  });
-}
-
-TEST(Role, CopyTellsAFailedCloneFromAFailedNestedCopy) {
+// The copy of a role, or of the text of debug settings, with one thing wrong after the other.
+TEST(Cfg, CopiesTellWhatHasFailed) {
   harness::captured_log log;
   harness::heap heap;
-  {
-    local<role> src;
-    local<role> dest;
-    equip(src.r, RAVIX_ROLE_OPMODE_AP_HOTSPOT);
-    heap.fail_only(1); // the access point
-    EXPECT_EQ(ravix_cfg_role_copy(&src.r, &dest.r), RAVIX_FAIL_GENERAL);
-    EXPECT_EQ(taken(log),
-              (texts{"ravix generic_clone: No memory available!", "ravix ravix_cfg_role_copy: Copy error!"}));
-    expect_empty(dest.r);
-
-    ASSERT_EQ(ravix_cfg_radius_server_table_init(&src.r.security.acct_servers, 1), 0);
-    heap.fail_only(1); // the servers
-    EXPECT_EQ(ravix_cfg_role_copy(&src.r, &dest.r), -12);
-    EXPECT_EQ(taken(log).back(), "ravix ravix_cfg_role_copy: Copy error!");
-    expect_empty(dest.r);
-
-    heap.fail_only(0);
-    src.r.security.key.len = 65;
-    EXPECT_EQ(ravix_cfg_role_copy(&src.r, &dest.r), -22);
-    EXPECT_EQ(taken(log),
-              (texts{"ravix ravix_types_key_copy: src->len is greater than RAVIX_MAX_KEY_LEN!",
-                     "ravix ravix_cfg_wlan_security_copy: Copy error!", "ravix ravix_cfg_role_copy: Copy error!"}));
-    expect_empty(dest.r);
-  }
-  EXPECT_EQ(heap.live(), 0U);
+  harness::golden_sections golden;
+  sample<role> src;
+  sample<role> dest;
+  src.value.op_mode = RAVIX_ROLE_OPMODE_AP_HOTSPOT;
+  src.value.config_ap = ravix_cfg_role_config_ap_create();
+  const auto add = [&](const char *title) {
+    const int code = ravix_cfg_role_copy(&src.value, &dest.value);
+    golden.add(title, told(outcome(code, src.value, dest.value), log, ""));
+  };
+  heap.fail_only(1);
+  add("no memory for the access point");
+  ASSERT_EQ(ravix_cfg_radius_server_table_init(&src.value.security.acct_servers, 1), 0);
+  heap.fail_only(1);
+  add("no memory for the servers");
+  heap.fail_only(0);
+  src.value.security.key.len = 65;
+  add("key too long");
+  char text[] = "all";
+  ravix_cfg_debug_settings_t settings{1, text};
+  ravix_cfg_debug_settings_t copied{};
+  heap.fail_only(1);
+  const int code = ravix_cfg_debug_settings_copy(&settings, &copied);
+  golden.add("no memory for a text", told(outcome(code, settings, copied), log, ""));
+  golden.expect("cfg_failures");
 }
-
-TEST(Role, CompareGoesByTheMode) {
-  for_each_mode([&](std::uint8_t mode) {
-    local<role> a;
-    local<role> b;
-    equip(a.r, mode, 1);
-    equip(b.r, mode, 2);
-    const int order = kind_of(mode) == kind::none ? 0 : -1;
-    EXPECT_EQ(sign(ravix_cfg_role_compare(&a.r, &b.r)), order);
-    EXPECT_EQ(sign(ravix_cfg_role_compare(&b.r, &a.r)), -order);
-    strip(b.r);
-    record<role>::clear(&b.r);
-    b.r.op_mode = mode; // with a null pointer now
-    EXPECT_EQ(ravix_cfg_role_compare(&a.r, &b.r), -order);
-    b.r.security.pmf_mode = 1; // decides first
-    EXPECT_EQ(ravix_cfg_role_compare(&a.r, &b.r), -1);
-    strip(a.r);
-  });
-}
-
-TEST(Role, SelfCopyKeepsTheRole) {
-  harness::heap heap;
-  {
-    local<role> r;
-    equip(r.r, RAVIX_ROLE_OPMODE_AP_HOME);
-    const auto *ap = r.r.config_ap;
-    EXPECT_EQ(ravix_cfg_role_copy(&r.r, &r.r), 0);
-    EXPECT_EQ(r.r.config_ap, ap);
-  }
-  EXPECT_EQ(heap.live(), 0U);
-}
-
-// ---- bounded texts
 
 template <class R, std::size_t N> void expect_bounded(char (R::*member)[N]) {
   for (const std::size_t length : {std::size_t{0}, N - 2, N - 1, N}) {
     SCOPED_TRACE(length);
-    local<R> src;
-    local<R> dest;
-    if constexpr (std::is_same_v<R, role>) {
-      equip(src.r, RAVIX_ROLE_OPMODE_AP_HOME);
-      equip(dest.r, RAVIX_ROLE_OPMODE_AP_HOME);
-    }
-    std::memset(src.r.*member, 'x', length);
-    std::memset(dest.r.*member, '#', N);
-    EXPECT_EQ(record<R>::copy(&src.r, &dest.r), 0);
-    const std::size_t kept = std::min(length, N - 1);
-    EXPECT_EQ(std::string(dest.r.*member, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
-    if constexpr (!std::is_same_v<R, ravix_cfg_radius_server_t>) { // of no address: never equal
-      EXPECT_EQ(sign(record<R>::compare(&src.r, &dest.r)), length == N ? 1 : 0) << "the last character counts";
-    }
-    // What follows the terminator does not count.
-    std::memset(src.r.*member, '\0', N);
-    (src.r.*member)[N - 1] = 'x';
-    EXPECT_EQ(record<R>::copy(&src.r, &dest.r), 0);
-    EXPECT_EQ(std::string(dest.r.*member, N), std::string(N, '\0'));
+    sample<R> src(1);
+    sample<R> dest(2);
+    std::memset(src.value.*member, 0, N);
+    (src.value.*member)[N - 1] = 'x'; // behind the terminator of shorter ones
+    std::memset(src.value.*member, 'x', length);
+    std::memset(dest.value.*member, '#', N);
+    EXPECT_EQ(record<R>::copy(&src.value, &dest.value), 0);
+    const std::size_t kept = length < N - 1 ? length : N - 1;
+    EXPECT_EQ(std::string(dest.value.*member, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
+    EXPECT_EQ(sign(record<R>::compare(&src.value, &dest.value)), length >= N - 1 ? 1 : 0) << "the last one counts";
   }
 }
 
-TEST(BoundedText, ACopyAlwaysEnds) {
+TEST(Cfg, CopiesOfBoundedTextsAlwaysEnd) {
   expect_bounded(&ravix_cfg_radio_static_t::if_name);
   expect_bounded(&role::if_name);
   expect_bounded(&ravix_cfg_radius_server_t::secret);
 }
 
-// ---- others
-
-TEST(RadiusServer, IsFoundWhateverItsIndex) {
-  local<ravix_cfg_radius_server_table_t> table;
-  local<ravix_cfg_radius_server_t> server;
-  EXPECT_EQ(server.r.index, INT32_MIN);
-  server.r.index = 1;
-  server.r.port = 1812;
-  server.r.addr.version = RAVIX_IP_VERSION_4;
-  std::strcpy(server.r.secret, "secret");
-  ASSERT_EQ(ravix_cfg_radius_server_table_add_entry(&table.r, &server.r), 0);
-  EXPECT_EQ(table.r.data[0].index, 1);
-  server.r.index = 2;
-  EXPECT_EQ(ravix_cfg_radius_server_compare(&table.r.data[0], &server.r), 0);
-  EXPECT_TRUE(ravix_cfg_radius_server_table_contains_entry(&table.r, &server.r));
-  server.r.secret[6] = '!';
-  EXPECT_LT(ravix_cfg_radius_server_compare(&table.r.data[0], &server.r), 0);
-  EXPECT_FALSE(ravix_cfg_radius_server_table_contains_entry(&table.r, &server.r));
-  server.r.port = 1; // decides over the secret
-  EXPECT_GT(ravix_cfg_radius_server_compare(&table.r.data[0], &server.r), 0);
-}
-
-TEST(DebugSettings, OwnTheirText) {
-  harness::captured_log log;
-  harness::heap heap;
-  {
-    local<ravix_cfg_debug_settings_t> dest;
-    {
-      local<ravix_cfg_debug_settings_t> src;
-      src.r.trace_state = 3;
-      EXPECT_EQ(ravix_cfg_debug_settings_copy(&src.r, &dest.r), 0);
-      EXPECT_EQ(dest.r.trace_parameter, nullptr);
-      src.r.trace_parameter = slab_dstrdup("all", "", 0);
-      EXPECT_EQ(ravix_cfg_debug_settings_compare(&dest.r, &src.r), -1) << "null sorts first";
-      EXPECT_EQ(ravix_cfg_debug_settings_copy(&src.r, &dest.r), 0);
-      EXPECT_EQ(ravix_cfg_debug_settings_compare(&dest.r, &src.r), 0);
-    }
-    EXPECT_STREQ(dest.r.trace_parameter, "all");
-    local<ravix_cfg_debug_settings_t> other;
-    heap.fail_only(1);
-    EXPECT_EQ(ravix_cfg_debug_settings_copy(&dest.r, &other.r), -12);
-    EXPECT_EQ(taken(log), texts{"ravix ravix_cfg_debug_settings_copy: No memory available!"});
-    EXPECT_EQ(other.r.trace_state, 0U);
-    EXPECT_EQ(other.r.trace_parameter, nullptr);
-  }
-  EXPECT_EQ(heap.live(), 0U);
-}
-
-TEST(Cfg, EmptyValuesOtherThanZero) {
-  EXPECT_EQ(local<ravix_cfg_hardware_static_t>().r.hw_interface, INT32_MIN);
-  EXPECT_EQ(local<ravix_cfg_radio_static_t>().r.mac_address_index, INT32_MIN);
-  EXPECT_EQ(local<ravix_cfg_role_access_control_t>().r.limits_max_clients, 4294967295U);
-  EXPECT_EQ(local<ravix_cfg_role_access_control_t>().r.limits_min_client_rssi, 32767);
-  EXPECT_EQ(local<ravix_cfg_role_config_ap_t>().r.access_control.limits_max_clients, 4294967295U);
-}
-
-TEST(Cfg, SetsOfSlotsAreComparedSlotBySlot) {
-  local<ravix_cfg_security_extended_t> a;
-  local<ravix_cfg_security_extended_t> b;
-  a.r.key_mgmt[1] = 0x80;
-  b.r.key_mgmt[1] = 0x01;
-  b.r.key_mgmt[2] = 0xFF;
-  b.r.group_cipher[0] = 0xFF;
-  EXPECT_EQ(ravix_cfg_security_extended_compare(&a.r, &b.r), 1);
-  EXPECT_EQ(ravix_cfg_security_extended_compare(&b.r, &a.r), -1);
+TEST(Cfg, ARadiusServerIsFoundWhateverItsIndex) {
+  sample<ravix_cfg_radius_server_table_t> table;
+  sample<ravix_cfg_radius_server_t> server(1);
+  server.value.index = 1;
+  ASSERT_EQ(ravix_cfg_radius_server_table_add_entry(&table.value, &server.value), 0);
+  EXPECT_EQ(table.value.data[0].index, 1);
+  server.value.index = 2;
+  EXPECT_TRUE(ravix_cfg_radius_server_table_contains_entry(&table.value, &server.value));
+  server.value.secret[0] = '!';
+  EXPECT_FALSE(ravix_cfg_radius_server_table_contains_entry(&table.value, &server.value));
 }
 
 } // namespace

@@ -411,7 +411,12 @@ RAVIX_API void ravix_cfg_auto_update_rule_clear(ravix_cfg_auto_update_rule_t *ob
 RAVIX_API void ravix_cfg_auto_update_rule_free(ravix_cfg_auto_update_rule_t *obj);
 RAVIX_API int ravix_cfg_auto_update_rule_compare(const ravix_cfg_auto_update_rule_t *a,
                                                  const ravix_cfg_auto_update_rule_t *b);
-/** Orders rules as keys of a map: as ravix_cfg_auto_update_rule_compare(), but without regard to `enabled`. */
+/**
+ * Orders rules as keys of a map: as ravix_cfg_auto_update_rule_compare(), but without regard to `enabled`.
+ * @param a null sorts before any rule
+ * @param b as `a`
+ * @return negative, 0 or positive
+ */
 RAVIX_API int ravix_cfg_auto_update_rule_map_key_compare(const ravix_cfg_auto_update_rule_t *a,
                                                          const ravix_cfg_auto_update_rule_t *b);
 /** @} */

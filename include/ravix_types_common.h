@@ -2,7 +2,7 @@
  * @file
  * Common values: the small records that all others embed, and tables of them.
  *
- * ## The life-cycle of every record
+ * # The life-cycle of every record {#lifecycle}
  *
  * A record type `ravix_<name>_t` is handled through the same functions, named `ravix_types_<name>_<operation>`
  * (configuration records: `ravix_cfg_<name>_<operation>`):
@@ -33,7 +33,7 @@
  *
  * **Threads.** No operation locks. A record may be used by one thread at a time, distinct records by any number.
  *
- * ## Tables
+ * # Tables {#tables}
  *
  * A table `ravix_<name>_table_t` is a counted array that the table owns: `data` has exactly `count` elements and is
  * null when the table is empty. Beside the operations above it has:

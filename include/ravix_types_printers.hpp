@@ -33,12 +33,13 @@ namespace zel {
  *  scope ends, also by an exception. For printers that set formats of their own around those of this library. */
 class RAVIX_API ios_copyfmt {
 public:
-  /** Remembers the state of `stream`, which must outlive the guard. */
+  /** Remembers a stream's state.
+   *  @param stream must outlive the guard */
   explicit ios_copyfmt(std::basic_ios<char> &stream);
   /** Restores it. An exception that the stream throws meanwhile is swallowed. */
   ~ios_copyfmt();
-  ios_copyfmt(const ios_copyfmt &) = delete;
-  ios_copyfmt &operator=(const ios_copyfmt &) = delete;
+  ios_copyfmt(const ios_copyfmt &) = delete;            /**< Not copied. */
+  ios_copyfmt &operator=(const ios_copyfmt &) = delete; /**< Not assigned. */
 
 private:
   std::basic_ios<char> &stream_;
@@ -49,10 +50,28 @@ private:
 
 /** @name Scan listing
  *  One line per network: BSSID, channel description, SSID, signal, modes, capabilities. With `hide_ssid` the SSID and
- * its column are left out, which keeps network names out of a log; the operators show them.
+ *  its column are left out, which keeps network names out of a log; the operators show them.
  *  @{ */
+/**
+ * Prints one network.
+ * @param os where to
+ * @param entry what to print
+ * @param hide_ssid leave the SSID out
+ */
 RAVIX_API void print_scan_entry(std::ostream &os, const ravix_scan_entry_t &entry, bool hide_ssid);
+/**
+ * Prints a header line and a line per network.
+ * @param os where to
+ * @param table what to print
+ * @param hide_ssid leave the SSIDs and their column out
+ */
 RAVIX_API void print_scan_table(std::ostream &os, const ravix_scan_table_t &table, bool hide_ssid);
+/**
+ * Prints the time of a scan, its noise floors and its networks.
+ * @param os where to
+ * @param results what to print
+ * @param hide_ssid leave the SSIDs and their column out
+ */
 RAVIX_API void print_scan_results(std::ostream &os, const ravix_scan_results_t &results, bool hide_ssid);
 RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_scan_entry_t &entry);
 RAVIX_API std::ostream &operator<<(std::ostream &os, const ravix_scan_table_t &table);
@@ -128,7 +147,8 @@ RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_scan
  *  - `indent`: number of blanks before each line; each level of nesting adds one.
  *  - `newline`: whether the last line ends with a line break.
  *
- *  A table is printed whole as soon as it differs at all, and only counted as too long beyond 50 short entries.
+ *  A table is printed whole as soon as it differs at all, and only counted as too long beyond 50 short entries. A
+ *  nested record ends its own lines, whatever `newline` says.
  *  @{ */
 RAVIX_API void print_diff(std::ostream &os, const ravix_channel_info_t &value, const ravix_channel_info_t *reference,
                           const char *name, unsigned indent, bool newline);

@@ -241,10 +241,17 @@ RAVIX_API int ravix_types_station_history_table_add_entry(ravix_station_history_
 /** @name Station history
  *  @{ */
 
-/** New history whose table has `capacity` empty entries, which count; null, after a log line, when memory is exhausted.
- *  To be released with ravix_types_station_history_free(). */
+/**
+ * New history whose table has empty entries, which count.
+ * @param capacity their number
+ * @return the history, to be released with ravix_types_station_history_free(); null, after a log line, when memory is
+ * exhausted
+ */
 RAVIX_API ravix_station_history_t *ravix_types_station_history_create(unsigned capacity);
-/** Releases a history and its entries; null is harmless. */
+/**
+ * Releases a history and its entries.
+ * @param history may be null
+ */
 RAVIX_API void ravix_types_station_history_free(ravix_station_history_t *history);
 /** @} */
 

@@ -158,8 +158,11 @@ RAVIX_API void ravix_types_beacon_report_table_free(ravix_beacon_report_table_t 
 /** @name Beacon report request
  *  @{ */
 
-/** Releases the requested identifiers, the AP channel reports and the further subelements. The plain values ahead of
- *  them stay, so that a request can be filled anew. Null is harmless. */
+/**
+ * Releases the requested identifiers, the AP channel reports and the further subelements. The plain values ahead of
+ * them stay, so that a request can be filled anew.
+ * @param params may be null
+ */
 RAVIX_API void ravix_types_beacon_report_rrm_req_params_clear(ravix_beacon_report_rrm_req_params_t *params);
 /** @} */
 

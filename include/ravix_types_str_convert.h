@@ -2,7 +2,7 @@
  * @file
  * Values as text, and text as values.
  *
- * ## Formatters: `ravix_str_...`
+ * # Formatters: ravix_str_... {#formatters}
  *
  * Every function returns a zero-terminated text that the caller neither owns nor frees. Fixed words ("INVALID", "ALL",
  * the names of values) are constants and stay valid. All other texts lie in one buffer of 4096 characters that the
@@ -20,7 +20,7 @@
  * **Locale.** Results do not depend on the locale, but for ravix_str_ssid(), which asks isprint() what is printable,
  * and ravix_str_status(), whose errno texts are the C library's. ravix_str_timestamp() shows local time.
  *
- * ## Parsers: `ravix_..._from_str`
+ * # Parsers: ravix_..._from_str {#parsers}
  *
  * Every parser returns true when `output` has been set from the text. A failure is told by one error-level line of log
  * module "ravix":
@@ -92,9 +92,14 @@ RAVIX_API const char *ravix_str_ip_addr(const ravix_ip_addr_t *value);
 RAVIX_API const char *ravix_str_mac(const uint8_t *value);
 /** Sixteen octets (RAVIX_UUID_LEN) as "00112233-4455-6677-8899-AABBCCDDEEFF". */
 RAVIX_API const char *ravix_str_uuid(const uint8_t *value);
-/** SSID as "'<text>' (len=<n>)", with a blank for each unprintable octet. With `hex_if_unprintable`, an SSID that has
+/**
+ * SSID as "'<text>' (len=<n>)", with a blank for each unprintable octet. With `hex_if_unprintable`, an SSID that has
  * an unprintable octet is shown as "'<text>'/[ 0a 6f ] (len=<n>)". The length shown is the one stored, even one beyond
- *  RAVIX_MAX_SSID_LEN, at which the text is cut. The log line for a null pointer names "ravix_str_ssid_impl". */
+ * RAVIX_MAX_SSID_LEN, at which the text is cut. The log line for a null pointer names "ravix_str_ssid_impl".
+ * @param value the SSID
+ * @param hex_if_unprintable also as hexadecimal where it is not printable
+ * @return its text, see @ref formatters
+ */
 RAVIX_API const char *ravix_str_ssid(const ravix_ssid_t *value, bool hex_if_unprintable);
 /** Channel description as "<primary MHz>/<centre MHz>/<width>/<puncture map>/<lowest>-<highest channel>", e.g.
  *  "5180/5210/ 80/0000/ 34- 50". The width is "INV" when its code is none; the two channel numbers are 0 when

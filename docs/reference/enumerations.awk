@@ -1,0 +1,57 @@
+# Reads ravix_types_enums.h and writes a C program that prints the page of enumeration tables: the numbers as the
+# compiler has them, the texts as the library prints them, the meanings as the header tells them.
+
+function quoted(text) {
+  gsub(/\\/, "\\\\", text)
+  gsub(/"/, "\\\"", text)
+  gsub(/%/, "%%", text)
+  gsub(/\|/, "\\\\|", text)
+  return text
+}
+
+function heading(text) {
+  formatter = match(comment, /ravix_str_[a-z0-9_]+/) ? substr(comment, RSTART, RLENGTH) : ""
+  print "  printf(\"\\n## " quoted(text) "\\n\\n| Value | Text | Constant | Meaning |\\n|---|---|---|---|\\n\");"
+}
+
+function row(name, meaning,    number, value) {
+  sub(/.*\/\*\*< */, "", meaning)
+  sub(/ *\*\/.*/, "", meaning)
+  number = flags ? "0x%llX" : "%lld"
+  value = formatter == "" ? "\"-\"" : formatter "(" name ")"
+  print "  printf(\"| " number " | `%s` | @ref " name " | " quoted(meaning) " |\\n\", (long long)" name ", " value ");"
+}
+
+BEGIN {
+  print "#include <ravix_types_enums.h>\n#include <ravix_types_str_convert.h>\n#include <stdio.h>\n\nint main(void) {"
+  print "  printf(\"# Values and their texts {#enumerations}\\n\\nAs the library of this version has them.\\n\");"
+}
+/^\/\*\*/ { comment = "" }
+/^(\/\*\*| \*)/ {
+  comment = comment " " $0
+  if ($0 ~ /@name/) {
+    title = $0
+    sub(/.*@name */, "", title)
+  }
+  if ($0 ~ /@\{/ && title != "") {
+    flags = 1
+    heading(title)
+    title = ""
+  }
+}
+/^enum [a-z0-9_]+ \{/ {
+  flags = 0
+  heading(substr($2, 7))
+}
+pending != "" && /^ +RAVIX_[A-Z0-9_]+ = |^};/ { # told by its name alone
+  row(pending, "")
+  pending = ""
+}
+/^ +RAVIX_[A-Z0-9_]+ = / { pending = $1; text = $0 }
+/^#define RAVIX_[A-Z0-9_]+ / { pending = $2; text = $0 }
+pending != "" && !/^ +RAVIX_[A-Z0-9_]+ = / && !/^#define/ { text = text " " $0 }
+pending != "" && /\*\// {
+  row(pending, text)
+  pending = ""
+}
+END { print "  return 0;\n}" }

@@ -31,20 +31,21 @@ void expect_golden(const std::string &name, std::string_view text) {
   if (expected == text) {
     return;
   }
+  // The next line of a text, in quotes; "(end)" behind the last.
+  const auto next = [](std::istream &lines) {
+    std::string line;
+    return std::getline(lines, line) ? line.insert(0, 1, '\'').append(1, '\'') : std::string("(end)");
+  };
   std::istringstream wanted(expected);
   std::istringstream got{std::string(text)};
   std::string wanted_line;
   std::string got_line;
   int line = 0;
-  bool more = true;
-  while (more && wanted_line == got_line) {
+  do {
     ++line;
-    const bool more_wanted = !std::getline(wanted, wanted_line).fail();
-    const bool more_got = !std::getline(got, got_line).fail();
-    wanted_line = more_wanted ? "'" + wanted_line + "'" : "(end)";
-    got_line = more_got ? "'" + got_line + "'" : "(end)";
-    more = more_wanted && more_got;
-  }
+    wanted_line = next(wanted);
+    got_line = next(got);
+  } while (wanted_line == got_line && wanted && got);
   ADD_FAILURE() << path << ":" << line << ": expected " << wanted_line << "\n  but got " << got_line
                 << (wanted_line == got_line ? " with another line end" : "")
                 << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";

@@ -421,7 +421,8 @@ TEST(Names, Flags) {
     }
     sections.add(what, lines);
     for (int i = 0; i < 300; ++i) {
-      const std::uint64_t set = i == 0 ? 0 : randomness()() & randomness()();
+      const std::uint64_t some = i == 0 ? 0 : randomness()();
+      const std::uint64_t set = some & randomness()();
       std::string text = "[ ";
       for (const auto &[flag, name] : in_order) {
         text += (set & flag) != 0 ? name : "";

@@ -183,15 +183,19 @@ typedef struct ravix_cfg_wlan_security {
   ravix_cfg_radius_server_table_t acct_servers; /**< RADIUS servers for accounting. */
 } ravix_cfg_wlan_security_t;
 
-/** Security as an RSN element or RSN override element announces it. Slots that are not used hold 0. Owns nothing. */
+/** Security as an RSN element (IEEE 802.11-2020, 9.4.2.24) or RSN override element announces it. Slots that are not
+ * used hold 0. Owns nothing. */
 typedef struct ravix_cfg_security_extended {
-  uint8_t encryption; /**< `RAVIX_ENCRYPTION_...` */
-  uint8_t pmf_mode;   /**< `RAVIX_PMF_MODE_...` */
-  uint8_t pwe_mode;   /**< How SAE derives its password element, `RAVIX_PWE_MODE_...`. */
-  uint8_t key_mgmt[RAVIX_SECURITY_EXTENDED_KEY_MGMTS];        /**< `RAVIX_ENCRYPTION_AKM_...` */
-  uint8_t group_cipher[RAVIX_SECURITY_EXTENDED_CIPHERS];      /**< `RAVIX_ENCRYPTION_CIPHER_SUITE_...` */
-  uint8_t group_mgmt_cipher[RAVIX_SECURITY_EXTENDED_CIPHERS]; /**< `RAVIX_ENCRYPTION_GROUP_MGMT_CIPHER_...` */
-  uint8_t pairwise_ciphers[RAVIX_SECURITY_EXTENDED_CIPHERS];  /**< `RAVIX_ENCRYPTION_CIPHER_SUITE_...` */
+  uint8_t encryption; /**< Element that is announced, `RAVIX_ENCRYPTION_...` */
+  uint8_t pmf_mode;   /**< Protected management frames (9.4.2.24.4), `RAVIX_PMF_MODE_...` */
+  uint8_t pwe_mode;   /**< How SAE derives its password element (12.4.4), `RAVIX_PWE_MODE_...`. */
+  uint8_t key_mgmt[RAVIX_SECURITY_EXTENDED_KEY_MGMTS];   /**< AKM suites (9.4.2.24.3), `RAVIX_ENCRYPTION_AKM_...` */
+  uint8_t group_cipher[RAVIX_SECURITY_EXTENDED_CIPHERS]; /**< Group cipher suites (9.4.2.24.2),
+                                                            `RAVIX_ENCRYPTION_CIPHER_SUITE_...` */
+  uint8_t group_mgmt_cipher[RAVIX_SECURITY_EXTENDED_CIPHERS]; /**< Group management cipher suites,
+                                                                 `RAVIX_ENCRYPTION_GROUP_MGMT_CIPHER_...` */
+  uint8_t pairwise_ciphers[RAVIX_SECURITY_EXTENDED_CIPHERS];  /**< Pairwise cipher suites,
+                                                                 `RAVIX_ENCRYPTION_CIPHER_SUITE_...` */
 } ravix_cfg_security_extended_t;
 
 /** Table of announced security elements. */
@@ -267,7 +271,7 @@ typedef struct ravix_cfg_role_static {
   };
 } ravix_cfg_role_static_t;
 
-/** OWE transition: an open role and the protected one that it points its clients to. Owns nothing. */
+/** OWE transition (RFC 8110): an open role and the protected one that it points its clients to. Owns nothing. */
 typedef struct ravix_cfg_owe_transition {
   int32_t owe_master_id; /**< Identifier of the protected role. */
   int32_t owe_slave_id;  /**< Identifier of the open role. */
@@ -276,7 +280,7 @@ typedef struct ravix_cfg_owe_transition {
   ravix_mac_t owe_bssid; /**< BSSID of the partner. */
 } ravix_cfg_owe_transition_t;
 
-/** Multi-link device (802.11be). */
+/** Multi-link device (IEEE 802.11be, 35.3). */
 typedef struct ravix_cfg_mld {
   ravix_mac_t mld_mac;           /**< Address of the multi-link device. */
   ravix_id_table_t mld_role_ids; /**< Identifiers of the roles that are its links. */

@@ -18,7 +18,10 @@
 
 #include <stdint.h>
 
+/** @defgroup enums Enumerations and flag sets */
+
 /** @defgroup enums_general Results and identifiers
+ *  @ingroup enums
  *  @{ */
 
 /** Result of an operation of the interface. Beside these values a result may be a negative errno value.
@@ -56,6 +59,7 @@ enum ravix_connect_session_id {
 /** @} */
 
 /** @defgroup enums_radio Radio
+ *  @ingroup enums
  *  @{ */
 
 /** Radio band. The valid values are single bits, so that they can be combined; 3 is no band.
@@ -178,6 +182,7 @@ enum ravix_radar_type {
 /** @} */
 
 /** @defgroup enums_roles Device, roles and stations
+ *  @ingroup enums
  *  @{ */
 
 /** Kind of product. See ravix_str_device_class(). */
@@ -328,6 +333,7 @@ enum ravix_special_handling_trigger {
 /** @} */
 
 /** @defgroup enums_security Security
+ *  @ingroup enums
  *  @{ */
 
 /** Security of a role. 3 and 4 are unassigned. See ravix_str_security(). */
@@ -404,6 +410,7 @@ enum ravix_pwe_mode {
 /** @} */
 
 /** @defgroup enums_events Events and connecting
+ *  @ingroup enums
  *  @{ */
 
 /** Kind of an event. See ravix_str_event(). */
@@ -472,6 +479,7 @@ enum ravix_connect_status {
 /** @} */
 
 /** @defgroup enums_param Configuration parameters
+ *  @ingroup enums
  *  @{ */
 
 /** Identifiers of configuration parameters, named as the parameters. 18, 104 and 105 are unassigned; `INVALID_MAX`

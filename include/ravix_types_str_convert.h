@@ -48,7 +48,10 @@
 extern "C" {
 #endif
 
+/** @defgroup text Text */
+
 /** @defgroup str_values Text of measures and addresses
+ *  @ingroup text
  *  @{ */
 
 /** "<n> kHz", or "INVALID" for 0. */
@@ -109,6 +112,7 @@ RAVIX_API const char *ravix_str_channel_info(const ravix_channel_info_t *value);
 /** @} */
 
 /** @defgroup str_names Names of values
+ *  @ingroup text
  *  Each function gives the name of a value, as the constants' own names end, or "<invalid value: <n>>".
  *  @{ */
 
@@ -170,6 +174,7 @@ RAVIX_API const char *ravix_str_param_id(uint32_t value);
 /** @} */
 
 /** @defgroup str_flags Names of flags
+ *  @ingroup text
  *  Each function lists the flags of a set, e.g. "[ 11A 11N ]"; "[ ]" for none. Bits without a name are left out.
  *  @{ */
 
@@ -193,6 +198,7 @@ RAVIX_API const char *ravix_str_capabilities(uint32_t value);
 /** @} */
 
 /** @defgroup from_str Values from text
+ *  @ingroup text
  *  @{ */
 
 /** Six octets as two hexadecimal digits each, separated by ":" or by "-", or not at all. Reads as sscanf() with

@@ -9,8 +9,15 @@ function quoted(text) {
   return text
 }
 
+# From the name of a set, or from an enumeration: then its comment's first sentence.
 function heading(text) {
   formatter = match(comment, /ravix_str_[a-z0-9_]+/) ? substr(comment, RSTART, RLENGTH) : ""
+  if (text ~ /^ravix_/) {
+    text = comment
+    sub(/^.*\/\*\* */, "", text)
+    sub(/(\. |\.$| *\*\/).*/, "", text)
+  }
+  gsub(/ \* +/, " ", text)
   print "  printf(\"\\n## " quoted(text) "\\n\\n| Value | Text | Constant | Meaning |\\n|---|---|---|---|\\n\");"
 }
 
@@ -24,7 +31,7 @@ function row(name, meaning,    number, value) {
 
 BEGIN {
   print "#include <ravix_types_enums.h>\n#include <ravix_types_str_convert.h>\n#include <stdio.h>\n\nint main(void) {"
-  print "  printf(\"# Values and their texts {#enumerations}\\n\\nAs the library of this version has them.\\n\");"
+  print "  printf(\"# Values and their texts {#enumerations}\\n\\n[TOC]\\n\\nAs this version of the library has them. Values without a text are only numbers in logs.\\n\");"
 }
 /^\/\*\*/ { comment = "" }
 /^(\/\*\*| \*)/ {
@@ -41,7 +48,7 @@ BEGIN {
 }
 /^enum [a-z0-9_]+ \{/ {
   flags = 0
-  heading(substr($2, 7))
+  heading($2)
 }
 pending != "" && /^ +RAVIX_[A-Z0-9_]+ = |^};/ { # told by its name alone
   row(pending, "")

@@ -4,6 +4,9 @@
 #include "inputs.hpp"
 
 #include "scan_results.pb.h"
+#include "zelcsock/slab.h"
+
+#include <tuple>
 
 namespace bench {
 
@@ -122,6 +125,41 @@ int compare_blocks(const ravix_cfg_role_static_t &a, const ravix_cfg_role_static
          std::memcmp(a_macs.data, b_macs.data, a_macs.count * sizeof *a_macs.data);
 }
 
+// The fields by hand, each by the comparison that is due to it: texts up to their ends, octets up to their counts.
+bool fields_differ(const ravix_cfg_role_static_t &a, const ravix_cfg_role_static_t &b) {
+  const auto head = [](const ravix_cfg_role_static_t &r) {
+    return std::tie(r.id, r.radio_id, r.enabled, r.mac_address_index, r.op_mode, r.power_level, r.wlan_mode,
+                    r.channel_width, r.security.security, r.security.pmf_mode, r.security.key.len,
+                    r.security.wps.enable, r.security.auth_servers.count, r.security.acct_servers.count,
+                    r.config_ap->ssid.len);
+  };
+  if (head(a) != head(b) || std::strncmp(a.if_name, b.if_name, sizeof a.if_name) != 0 ||
+      std::memcmp(a.security.key.key, b.security.key.key, a.security.key.len) != 0 ||
+      std::memcmp(a.security.wps.uuid, b.security.wps.uuid, sizeof a.security.wps.uuid) != 0) {
+    return true;
+  }
+  for (std::uint32_t i = 0; i < a.security.auth_servers.count; ++i) {
+    const auto &one = a.security.auth_servers.data[i];
+    const auto &other = b.security.auth_servers.data[i];
+    if (one.port != other.port || one.addr.version != other.addr.version ||
+        std::memcmp(one.addr.addr, other.addr.addr, 4) != 0 ||
+        std::strncmp(one.secret, other.secret, sizeof one.secret) != 0) {
+      return true;
+    }
+  }
+  const auto flags = [](const ravix_cfg_role_config_ap_t &ap) {
+    return std::tie(ap.ssid_set, ap.hidden_ssid_enabled, ap.user_isolation_enabled, ap.iptv_optimization_enabled,
+                    ap.access_control.mac_filter_enabled, ap.access_control.mac_filter_type,
+                    ap.access_control.macs_filtered.count, ap.access_control.limits_enabled,
+                    ap.access_control.limits_max_clients, ap.access_control.limits_min_client_rssi,
+                    ap.time_control.timeout_active, ap.time_control.timeout_minutes, ap.time_control.force_off);
+  };
+  const auto &macs = a.config_ap->access_control.macs_filtered;
+  return flags(*a.config_ap) != flags(*b.config_ap) ||
+         std::memcmp(a.config_ap->ssid.ssid, b.config_ap->ssid.ssid, a.config_ap->ssid.len) != 0 ||
+         std::memcmp(macs.data, b.config_ap->access_control.macs_filtered.data, macs.count * sizeof *macs.data) != 0;
+}
+
 // ---- tables
 
 // Adds an entry `count` times to an empty table.
@@ -135,10 +173,10 @@ void add_entries(std::uint32_t count, const Entry &entry, int (*add)(Table *, co
   clear(&table);
 }
 
-template <class Entry> void grow_array(std::uint32_t count, const Entry &entry) {
+template <class Entry, class Resize> void grow_array(std::uint32_t count, const Entry &entry, Resize resize) {
   Entry *data = nullptr;
   for (std::uint32_t i = 0; i < count; ++i) {
-    data = static_cast<Entry *>(std::realloc(data, (i + 1) * sizeof *data));
+    data = static_cast<Entry *>(resize(data, (i + 1) * sizeof *data));
     std::memcpy(&data[i], &entry, sizeof entry);
   }
   keep(data);
@@ -181,12 +219,18 @@ void register_records() {
           }});
   require(ravix_cfg_role_compare(role.get(), twin.get()) == 0, "a role differs from its copy");
   row("compare_role", way{"ravix", [=] { benchmark::DoNotOptimize(ravix_cfg_role_compare(role.get(), twin.get())); }},
-      way{"memcmp", [=] { benchmark::DoNotOptimize(compare_blocks(*role, *twin)); }});
+      way{"memcmp", [=] { benchmark::DoNotOptimize(compare_blocks(*role, *twin)); }},
+      way{"by_field", [=] { benchmark::DoNotOptimize(fields_differ(*role, *twin)); }});
 
   const auto added = [](const std::string &name, const auto &entry, auto add, auto clear) {
     for (const std::uint32_t count : {1000U, 100000U}) {
       row(name + std::to_string(count), way{"ravix", [=] { add_entries(count, entry, add, clear); }},
-          way{"realloc", [=] { grow_array(count, entry); }});
+          way{"realloc",
+              [=] { grow_array(count, entry, [](void *data, std::size_t size) { return std::realloc(data, size); }); }},
+          way{"slab", [=] {
+                grow_array(count, entry,
+                           [](void *data, std::size_t size) { return slab_drealloc(data, size, "bench", 0); });
+              }});
     }
   };
   added("add_frequencies_", std::uint32_t{5180000}, ravix_types_frequency_table_add_entry,

@@ -83,6 +83,12 @@ need_build_tools() {
   need cmake=cmake ninja=ninja-build g++=g++ make=make pkg-config=pkgconf /usr/include/gtest/gtest.h=libgtest-dev "$@"
 }
 
+# What the benchmarks need besides.
+need_bench_tools() {
+  need_build_tools /usr/include/benchmark/benchmark.h=libbenchmark-dev /usr/include/fmt/compile.h=libfmt-dev \
+    protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev valgrind=valgrind
+}
+
 # Where a preset builds.
 build_dir() {
   if [[ $1 == release ]]; then echo build; else echo "build-$1"; fi

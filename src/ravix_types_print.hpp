@@ -251,7 +251,7 @@ private:
   }
 
   std::ostream &stream_;
-  std::array<char, 512> buffer_; // NOLINT(cppcoreguidelines-pro-type-member-init): only what is written is read
+  std::array<char, 256> buffer_; // NOLINT(cppcoreguidelines-pro-type-member-init): only what is written is read
   std::size_t used_ = 0;
 };
 

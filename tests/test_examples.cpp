@@ -42,7 +42,7 @@ struct outcome {
 // Runs one of the programs, by a shell for its redirections.
 outcome run(const std::string &command_line) {
   outcome result;
-  const std::string given = replaced(RAVIX_EXAMPLE_PROGRAMS "/" + command_line + " 2>&1", "$DATA", RAVIX_EXAMPLE_DATA);
+  const std::string given = replaced(RAVIX_EXAMPLE_RUN + command_line + " 2>&1", "$DATA", RAVIX_EXAMPLE_DATA);
   std::FILE *pipe = popen(replaced(given, "$CASES", RAVIX_TEST_DATA).c_str(),
                           "r"); // NOLINT(cert-env33-c): all commands are written by us
   if (pipe == nullptr)

@@ -38,7 +38,8 @@
 
 namespace {
 
-std::atomic<std::size_t> allocations = 0; // by C++ code
+std::atomic<std::size_t> allocations = 0;                 // by C++ code
+constexpr std::int64_t seconds_east = 5 * 3600 + 30 * 60; // of the tests' time zone
 bool no_local_time = false;
 bool wall_clock_unset = false;
 
@@ -59,12 +60,13 @@ bool wall_clock_unset = false;
 }
 
 // Stands before the C library's, so that it can be made to fail.
-extern "C" [[gnu::visibility("default")]] std::tm *localtime_r(const std::time_t *time, std::tm *result) noexcept {
-  using function = std::tm *(const std::time_t *, std::tm *);
-  static auto *const real = reinterpret_cast<function *>(dlsym(RTLD_NEXT, "localtime_r"));
-  return no_local_time ? nullptr : real(time, result);
+extern "C" [[gnu::visibility("default")]] std::tm *
+localtime_r(const std::time_t *time, std::tm *result) noexcept(noexcept(localtime_r(time, result))) {
+  const auto local = static_cast<std::time_t>(*time + seconds_east);
+  return no_local_time ? nullptr : gmtime_r(&local, result);
 }
 
+#ifdef __GLIBC__ // a static program cannot reach the C library's own
 // The same; a device whose wall clock has never been set is behind its own steady clock.
 extern "C" [[gnu::visibility("default")]] int clock_gettime(clockid_t clock, std::timespec *now) noexcept {
   using function = int(clockid_t, std::timespec *);
@@ -74,10 +76,9 @@ extern "C" [[gnu::visibility("default")]] int clock_gettime(clockid_t clock, std
   now->tv_sec -= unset ? 1000 : 0;
   return result;
 }
+#endif
 
 namespace {
-
-constexpr std::int64_t seconds_east = 5 * 3600 + 30 * 60; // of the tests' time zone
 
 class decimal_comma : public std::numpunct<char> {
   char do_decimal_point() const override { return ','; }

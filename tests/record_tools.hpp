@@ -273,10 +273,9 @@ template <class R> struct sample {
   R value;
 
   sample() : value() { record<R>::clear(&value); }
-  explicit sample(auto seed, auto... tame) : sample() {
-    randomness random(seed, tame...);
-    fill(value, random);
-  }
+  explicit sample(randomness random) : sample() { fill(value, random); }
+  explicit sample(unsigned seed, bool tame = false) : sample(randomness(seed, tame)) {}
+  explicit sample(std::span<const std::uint8_t> chosen) : sample(randomness(chosen)) {}
   ~sample() { record<R>::clear(&value); }
   sample(const sample &) = delete;
   sample &operator=(const sample &) = delete;

@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <random>
 #include <set>
@@ -156,7 +157,7 @@ TEST(Frequency, EqualsTheJudgeAtEveryStepAndBoundary) {
   }
 }
 
-TEST(Frequency, IsPrimaryOnlyWhereAChannelIs) {
+TEST(Frequency, IsPrimaryOnlyWhereAChannelIsAndLeadsThereAndBack) {
   ASSERT_EQ(all_primaries().size(), 14U + 28U + 59U);
   numbers found;
   for (uint32_t f = 0; f <= 7300000; ++f) {
@@ -170,27 +171,22 @@ TEST(Frequency, IsPrimaryOnlyWhereAChannelIs) {
               f);
     EXPECT_FALSE(ravix_frequency_is_primary(f + 0x80000000U));
   }
-}
-
-TEST(Channel, BelongsToABandUnlessItsNumberIsAmbiguous) {
-  for (uint32_t channel = 0; channel <= 300; ++channel) {
-    const int band = channel >= 1 && channel <= 14 ? 1 : channel >= 36 && channel <= 177 ? 2 : 0;
-    EXPECT_EQ(ravix_channel_to_radio_band(channel), band) << channel;
-  }
-  EXPECT_EQ(ravix_channel_to_radio_band(UINT32_MAX), 0);
+  for (const uint32_t channel : series(0, 300, 1))
+    EXPECT_EQ(ravix_channel_to_radio_band(channel), channel >= 1 && channel <= 14     ? 1
+                                                    : channel >= 36 && channel <= 177 ? 2
+                                                                                      : 0);
 }
 
 TEST(Width, StepsThroughTheFiveWidthsAndKnowsNoOther) {
-  const std::map<uint16_t, uint16_t> wider = {{1, 2}, {2, 4}, {4, 16}, {16, 32}};
-  const std::map<uint16_t, uint16_t> narrower = {{2, 1}, {4, 2}, {16, 4}, {32, 16}};
   info made = {};
   for (uint32_t w = 0; w <= UINT16_MAX; ++w) {
     const auto width = static_cast<uint16_t>(w);
-    const auto in = [width](const auto &map) { return map.contains(width) ? map.at(width) : 0; };
-    ASSERT_EQ(ravix_channel_width_to_frequency(width), in(widths_khz)) << w;
-    ASSERT_EQ(ravix_channel_width_lower(width), in(narrower)) << w;
-    ASSERT_EQ(ravix_channel_width_higher(width), in(wider)) << w;
-    ASSERT_EQ(ravix_create_channel_info(6135000, width, true, 0, &made), widths_khz.contains(width)) << w;
+    const auto own = widths_khz.find(width);
+    const bool exists = own != widths_khz.end();
+    ASSERT_EQ(ravix_channel_width_to_frequency(width), judged_khz(width)) << w;
+    ASSERT_EQ(ravix_channel_width_lower(width), exists && width != 1 ? std::prev(own)->first : 0) << w;
+    ASSERT_EQ(ravix_channel_width_higher(width), exists && width != 32 ? std::next(own)->first : 0) << w;
+    ASSERT_EQ(ravix_create_channel_info(6135000, width, true, 0, &made), exists) << w;
   }
   for (uint32_t khz = 0; khz <= 400000; ++khz) {
     const uint16_t width = ravix_frequency_to_channel_width(khz);
@@ -275,6 +271,11 @@ TEST(ChannelInfo, IsValidOnlyIfItCanBeMade) {
   EXPECT_GT(all_channels().size(), 2000U);
   EXPECT_FALSE(ravix_channel_info_is_valid(nullptr));
   EXPECT_FALSE(ravix_create_channel_info(2412000, 1, false, 0, nullptr));
+  for (uint32_t map = 0; map <= 0xFFFF; ++map) { // without a channel any width's pattern is valid
+    const bool known = std::ranges::any_of(
+        widths_khz, [=](auto width) { return judged_patterns(width.first).contains(static_cast<uint16_t>(map)); });
+    ASSERT_EQ(ravix_puncture_map_is_valid(static_cast<uint16_t>(map), nullptr), map == 0 || known) << map;
+  }
   const auto judge = [](const info &channel) {
     ASSERT_EQ(ravix_channel_info_is_valid(&channel), all_channels().contains(fields(channel)))
         << ravix_str_channel_info(&channel);
@@ -307,18 +308,24 @@ TEST(ChannelInfo, CoversTheChannelNumbersBetweenItsEdges) {
   }
 }
 
-TEST(Puncturing, WithoutAChannelAnyPatternIsValid) {
-  for (uint32_t m = 0; m <= 0xFFFF; ++m) {
-    const auto map = static_cast<uint16_t>(m);
-    const bool known = std::ranges::any_of(widths_khz, [=](auto w) { return judged_patterns(w.first).contains(map); });
-    ASSERT_EQ(ravix_puncture_map_is_valid(map, nullptr), map == 0 || known) << m;
-  }
-}
-
 // ---- Single calls
 
 void collect(const entry *visited, void *context, uint32_t frequency) {
   *static_cast<std::string *>(context) += ' ' + std::to_string(visited->frequency == frequency ? frequency : 0);
+}
+
+std::string shown(const info &c) {
+  const auto [primary, center, width, map] = c;
+  return '{' + std::to_string(primary) + ' ' + std::to_string(center) + ' ' + std::to_string(width) + ' ' +
+         std::to_string(map) + '}';
+}
+
+// A number that is the same text on every machine: a NaN may have a sign, and powf() its own last digit.
+std::string shown(float value, double unit = 1) {
+  std::ostringstream out;
+  out.precision(9);
+  out << (std::isnan(value) ? std::abs(value) : unit == 1 ? value : std::round(value / unit));
+  return out.str();
 }
 
 // Makes a call that is written as in the golden file; "null" as an argument is a null pointer.
@@ -326,77 +333,55 @@ std::string answer(const std::string &call) {
   std::vector<entry> entries = {{5220000, 20, 0xC8, 0, 0}, {5190000, 20, 1, 0, 0}, {5200000, 20, 0xE9, ~0U, 0}};
   for (const uint32_t f : {5240000U, 5170000U, 5169999U, 5250000U, 5250001U, 5180000U})
     entries.push_back({f, 20, 0x27, f == 5180000 ? 0x20U : 0U, 0});
-  const ravix_channel_list_t lists[] = {{static_cast<uint32_t>(entries.size()), entries.data()}, {3, nullptr}};
+  const ravix_channel_list_t full = {static_cast<uint32_t>(entries.size()), entries.data()}, no_array = {3, nullptr};
 
   std::istringstream in(call);
-  std::string function, word;
-  in >> function;
-  const auto next = [&] { return in >> word, word; };
-  const auto number = [&] { return static_cast<uint32_t>(std::stoul(next(), nullptr, 0)); };
-  const auto code = [&] { return static_cast<uint16_t>(number()); };
-  const auto real = [&] { return std::strtof(next().c_str(), nullptr); };
-  const auto list = [&] { return next() == "list" ? &lists[0] : word == "no_array" ? &lists[1] : nullptr; };
-  const auto if_given = [&](auto *pointer) { return next() != "null" ? pointer : nullptr; };
-  info channel = {}, written = {1, 2, 3, 4};
-  const auto info_or_null = [&]() -> const info * {
-    const char *format = "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16;
-    return std::sscanf(next().c_str(), format, &channel.primary_freq, &channel.center_freq, &channel.channel_width,
-                       &channel.puncture_map) == 4
-               ? &channel
-               : nullptr;
+  const std::vector<std::string> words{std::istream_iterator<std::string>(in), {}};
+  const std::string &function = words.at(0);
+  const auto number = [&](std::size_t i) { return static_cast<uint32_t>(std::stoul(words.at(i), nullptr, 0)); };
+  const auto code = [&](std::size_t i) { return static_cast<uint16_t>(number(i)); };
+  const auto real = [&](std::size_t i) { return std::strtof(words.at(i).c_str(), nullptr); };
+  const auto given = [&](std::size_t i, auto *pointer) { return words.at(i) != "null" ? pointer : nullptr; };
+  const auto list = [&](std::size_t i) { return given(i, words.at(i) == "no_array" ? &no_array : &full); };
+  info asked = {}, written = {1, 2, 3, 4};
+  const auto channel = [&](std::size_t i) -> const info * {
+    std::sscanf(words.at(i).c_str(), "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16, &asked.primary_freq,
+                &asked.center_freq, &asked.channel_width, &asked.puncture_map);
+    return given(i, &asked);
   };
-  std::ostringstream out;
-  out.precision(9);
-  if (function == "frequency") {
-    const uint32_t n = number(), band = number();
-    out << ravix_frequency_from_channel_and_band(n, band) << ' ' << ravix_radio_band_and_channel_to_frequency(band, n);
-  } else if (function == "codes") {
-    const float x = real();
-    out << +dBm_to_ravix_rcpi_val(x) << ' ' << +dBm_to_ravix_anpi_val(x) << ' ' << +dB_to_ravix_rsni_val(x);
-  } else if (function == "rsni") {
-    const float total = real();
-    const float dB = ravix_calculate_rsni_dB(total, real());
-    out << (std::isnan(dB) ? std::abs(dB) : dB);
-  } else if (function == "factor") {
-    const float dB = real();
-    for (const float factor : {ravix_dB_to_factor(dB), ravix_dBm_to_power_mW(dB)})
-      out << std::round(std::abs(factor) * 1e6F) << ' ';
-  } else if (function == "puncture") {
-    const uint16_t map = code();
-    out << ravix_puncture_map_is_valid(map, info_or_null());
-  } else if (function == "numbers") {
+  const auto with = [](auto result, const std::string &more) { return std::to_string(result) + ' ' + more; };
+  if (function == "frequency")
+    return with(ravix_frequency_from_channel_and_band(number(1), number(2)),
+                std::to_string(ravix_radio_band_and_channel_to_frequency(number(2), number(1))));
+  if (function == "codes")
+    return with(dBm_to_ravix_rcpi_val(real(1)),
+                with(dBm_to_ravix_anpi_val(real(1)), std::to_string(dB_to_ravix_rsni_val(real(1)))));
+  if (function == "rsni")
+    return shown(ravix_calculate_rsni_dB(real(1), real(2)));
+  if (function == "factor")
+    return shown(ravix_dB_to_factor(real(1)), 1e-6) + ' ' + shown(ravix_dBm_to_power_mW(real(1)), 1e-6);
+  if (function == "puncture")
+    return std::to_string(ravix_puncture_map_is_valid(code(1), channel(2)));
+  if (function == "numbers") {
     uint32_t low = 7, high = 7;
-    const auto *const asked = info_or_null();
-    auto *const to_low = if_given(&low);
-    out << ravix_channel_info_to_lowest_and_highest_channel(asked, to_low, if_given(&high)) << " {" << low << ' '
-        << high << '}';
-  } else if (function == "walk") {
-    std::string visited;
-    const auto *const walked = list();
-    const auto *const asked = info_or_null();
-    const int result = ravix_channel_info_check_range(walked, asked, if_given(&collect), &visited);
-    out << result << " {" << visited << " }";
-  } else if (function == "clear") {
-    const auto *const walked = list();
-    const auto *const asked = info_or_null();
-    const uint32_t mask = number();
-    bool clear = mask == 1;
-    out << ravix_channel_is_clear(walked, asked, mask, if_given(&clear)) << " {" << clear << '}';
-  } else {
-    const auto *const searched = function == "search" ? list() : nullptr;
-    const uint32_t primary = number();
-    const uint16_t width = code();
-    if (function == "auto") {
-      const bool ext_high = number() != 0;
-      const uint16_t map = code();
-      out << ravix_create_channel_info_auto(primary, width, ext_high, map, if_given(&written));
-    } else {
-      out << ravix_get_max_clear_channel_info(searched, primary, 1, true, width, if_given(&written));
-    }
-    out << " {" << written.primary_freq << ' ' << written.center_freq << ' ' << written.channel_width << ' '
-        << written.puncture_map << '}';
+    const bool done = ravix_channel_info_to_lowest_and_highest_channel(channel(1), given(2, &low), given(3, &high));
+    return with(done, '{' + std::to_string(low) + ' ' + std::to_string(high) + '}');
   }
-  return out.str();
+  if (function == "walk") {
+    std::string visited;
+    const int result = ravix_channel_info_check_range(list(1), channel(2), given(3, &collect), &visited);
+    return with(result, '{' + visited + " }");
+  }
+  if (function == "clear") {
+    bool clear = number(3) == 1;
+    const int result = ravix_channel_is_clear(list(1), channel(2), number(3), given(4, &clear));
+    return with(result, clear ? "{1}" : "{0}");
+  }
+  const int result =
+      function == "auto"
+          ? ravix_create_channel_info_auto(number(1), code(2), number(3) != 0, code(4), given(5, &written))
+          : ravix_get_max_clear_channel_info(list(1), number(2), 1, true, code(3), given(4, &written));
+  return with(result, shown(written));
 }
 
 TEST(Calls, AreAnsweredAsRecorded) {

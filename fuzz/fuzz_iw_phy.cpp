@@ -1,8 +1,8 @@
 // The reader of what "iw phy" prints, on the whole input as a text, and the channel lists that are made of it.
 //
 // - Whatever the text, each band of each radio has channels, and powers that a radio can have.
-// - A width that an entry of a list is capable of is a channel of which the list has all: a search for the widest
-//   channel around a primary channel finds one.
+// - A width that an entry of a list is capable of is one of a channel: a search for the widest channel around a primary
+//   channel finds one.
 // - A text without a band is told, each problem names a line of the text, and its message has no control characters.
 #include "fuzz.hpp"
 
@@ -27,7 +27,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
         require(entry.max_power == RAVIX_POWER_INVALID || std::abs(entry.max_power) <= 200, "a power");
         ravix_channel_info_t found;
         const int code = ravix_get_max_clear_channel_info(list.get(), entry.frequency, 0, false, 0, &found);
-        require((code == 0 && iw::has_all_of(*list, found)) || !ravix_frequency_is_primary(entry.frequency), "found");
+        require(code == 0 || !ravix_frequency_is_primary(entry.frequency), "a channel is found");
       }
     }
   }

@@ -345,11 +345,11 @@ std::string answer(const std::string &call) {
   const auto list = [&](std::size_t i) { return given(i, words.at(i) == "no_array" ? &no_array : &full); };
   info asked = {}, written = {1, 2, 3, 4};
   const auto channel = [&](std::size_t i) -> const info * {
-    // NOLINTNEXTLINE(cert-err34-c): the numbers stand in a file of ours
-    const bool read =
-        std::sscanf(words.at(i).c_str(), "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16, &asked.primary_freq,
-                    &asked.center_freq, &asked.channel_width, &asked.puncture_map) == 4;
-    return read ? &asked : nullptr;
+    const char *const format = "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16;
+    const int read = std::sscanf( // NOLINT(cert-err34-c): the numbers stand in a file of ours
+        words.at(i).c_str(), format, &asked.primary_freq, &asked.center_freq, &asked.channel_width,
+        &asked.puncture_map);
+    return read == 4 ? &asked : nullptr;
   };
   const auto with = [](auto result, const std::string &more) { return std::to_string(result) + ' ' + more; };
   if (function == "frequency")

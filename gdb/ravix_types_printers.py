@@ -1,0 +1,220 @@
+"""Shows the records of libravix_types in gdb as the library's own texts do.
+
+gdb loads this by itself with the library when both are installed where it looks; otherwise:
+
+    (gdb) source <prefix>/share/ravix_types/gdb/ravix_types_printers.py
+
+Which text shows which field is read from ravix_types_facts.json beside this file, which the library's build writes from
+its field lists. "print/r" shows the plain structure, secrets included.
+"""
+
+import json
+import os
+import re
+
+import gdb
+import gdb.printing
+
+with open(os.path.join(os.path.dirname(os.path.realpath(__file__)), "ravix_types_facts.json"), encoding="utf-8") as file:
+    FACTS = json.load(file)
+RECORDS = FACTS["records"]
+TEXTS = FACTS["texts"]
+
+NULL = "<nullptr>"
+
+
+def octets(value, count):
+    return [int(value[i]) & 0xFF for i in range(count)]
+
+
+def bare(value_type):
+    """The type without typedefs and qualifiers."""
+    return value_type.strip_typedefs().unqualified()
+
+
+def field_text(fact, value):
+    """The library's text of a value."""
+    if bare(value.type).code == gdb.TYPE_CODE_ARRAY and "octets" not in fact and fact.get("names"):
+        return ", ".join(field_text(fact, value[i]) for i in range(value.type.range()[1] + 1))
+    if "octets" in fact:
+        return fact["octets"].format(*octets(value, bare(value.type).range()[1] + 1))
+    if "{" not in fact.get("otherwise", "{"):  # one text for whatever there is
+        return fact["names"].get(str(int(value)), fact["otherwise"]) if fact["names"] else fact["otherwise"]
+    number = int(value)
+    if "flags" in fact:
+        number &= (1 << 64) - 1
+        shown = [name for bit, name in fact["flags"] if number >> bit & 1]
+        unnamed = number & ~sum(1 << bit for bit, _ in fact["flags"])
+        return "[ " + "".join(name + " " for name in shown) + "]" + (f" and {unnamed:#x}" if unnamed else "")
+    if "bits" in fact:
+        return f"{number & (1 << fact['bits']) - 1:0{fact['bits']}b}"
+    if "timestamp" in fact:  # the date depends on the clocks of the process
+        return "never" if number == fact["timestamp"] else f"[{number // 1000}.{number % 1000:03}]"
+    return fact["names"].get(str(number)) or fact["otherwise"].format(number)
+
+
+class ChannelInfo:
+    """primary/centre/width in MHz/puncture map; the range of channels is left out."""
+
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        fields = RECORDS["ravix_channel_info"]["fields"]
+        width = field_text(TEXTS[fields["channel_width"]], self.value["channel_width"])
+        return "{:4}/{:4}/{:>3}/{:04x}".format(
+            int(self.value["primary_freq"]) // 1000,
+            int(self.value["center_freq"]) // 1000,
+            width.split()[0] if width.endswith("MHz") else "INV",
+            int(self.value["puncture_map"]),
+        )
+
+
+class IpAddress:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        version = int(self.value["version"])
+        octet = octets(self.value["addr"], 16)
+        if version == 1:
+            return ".".join(str(o) for o in octet[:4])
+        if version == 2:
+            return ":".join(f"{octet[i] << 8 | octet[i + 1]:x}" for i in range(0, 16, 2))
+        return f"<Invalid IP version: {version}>"
+
+
+class Key:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return "[SECRET]"
+
+
+class Ssid:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        length = int(self.value["len"])
+        shown = octets(self.value["ssid"], min(length, 32))
+        printable = [0x20 <= o < 0x7F for o in shown]
+        text = "'" + "".join(chr(o) if p else " " for o, p in zip(shown, printable)) + "'"
+        dump = "" if all(printable) else "/[ " + "".join(f"{o:02x} " for o in shown) + "]"
+        return f"{text}{dump} (len={length})"
+
+
+class Tlv:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        length = int(self.value["len"])
+        head = f"type {int(self.value['type'])}, length {length}"
+        if length == 0:
+            return head
+        if not int(self.value["value"]):
+            return f"{head}: {NULL}"
+        return head + ": " + " ".join(f"{o:02x}" for o in octets(self.value["value"], length))
+
+
+class Mac:
+    def __init__(self, value):
+        self.value = value
+
+    def to_string(self):
+        return ":".join(f"{o:02X}" for o in octets(self.value, 6))
+
+
+class Record:
+    """A record by its field list."""
+
+    def __init__(self, value):
+        self.value = value
+        self.facts = RECORDS[bare(value.type).tag]
+
+    def to_string(self):
+        return bare(self.value.type).tag + "_t"
+
+    def members(self):
+        """The names of the fields, of two alternatives only the one that there is."""
+        for field in bare(self.value.type).fields():
+            if field.name:
+                yield field.name
+            else:
+                for tag, names in self.facts.get("alternatives", {}).items():
+                    if str(int(self.value[tag])) in names:
+                        yield names[str(int(self.value[tag]))]
+
+    def child(self, name, value):
+        number = self.facts["fields"].get(name)
+        if number is not None and name != "data":
+            return field_text(TEXTS[number], value)
+        field_type = bare(value.type)
+        if field_type.code == gdb.TYPE_CODE_ARRAY and bare(field_type.target()).name == "char":
+            text = bytes(octets(value, field_type.range()[1] + 1)).split(b"\0")[0]
+            return '"' + text.decode("utf-8", "backslashreplace") + '"'
+        if field_type.code == gdb.TYPE_CODE_PTR and not int(value):
+            return NULL
+        if field_type.code == gdb.TYPE_CODE_PTR and bare(field_type.target()).tag in RECORDS:
+            return value.dereference()
+        return value
+
+    def children(self):
+        for name in self.members():
+            yield name, self.child(name, self.value[name])
+
+
+class Table(Record):
+    """A table as its elements, after whatever else it holds."""
+
+    def __init__(self, value):
+        self.value = value
+        self.facts = RECORDS.get(bare(value.type).tag, {"fields": {}})
+
+    def to_string(self):
+        count = int(self.value["count"])
+        lost = " without an array" if count and not int(self.value["data"]) else ""
+        return f"{bare(self.value.type).tag}_t of {count}{lost}"
+
+    def children(self):
+        number = self.facts["fields"].get("data")
+        for name in self.members():
+            if name not in ("count", "data"):
+                yield name, self.child(name, self.value[name])
+        if int(self.value["data"]):
+            for i in range(int(self.value["count"])):
+                element = self.value["data"][i]
+                yield f"[{i}]", element if number is None else field_text(TEXTS[number], element)
+
+
+VALUES = {
+    "ravix_channel_info": ChannelInfo,
+    "ravix_ip_addr": IpAddress,
+    "ravix_key": Key,
+    "ravix_ssid": Ssid,
+    "ravix_tlv": Tlv,
+}
+
+
+class Printers(gdb.printing.PrettyPrinter):
+    """Finds the printer of a value by the name of its structure."""
+
+    def __init__(self):
+        super().__init__("ravix_types", [])
+
+    def __call__(self, value):
+        if re.fullmatch(r"(const )?ravix_mac_t", str(value.type)):
+            return Mac(value)
+        struct = bare(value.type)
+        if struct.code != gdb.TYPE_CODE_STRUCT or not struct.tag:
+            return None
+        if struct.tag in VALUES:
+            return VALUES[struct.tag](value)
+        if struct.tag.startswith("ravix_") and {"count", "data"} <= {field.name for field in struct.fields()}:
+            return Table(value)
+        return Record(value) if struct.tag in RECORDS else None
+
+
+gdb.printing.register_pretty_printer(None, Printers(), replace=True)

@@ -223,7 +223,11 @@ int run(const options &wanted) {
   }
   print_scan_results(std::cout, *response->scan_results, wanted.hide_ssid);
   std::cout << std::endl;
-  return problems.has_errors() || !std::cout ? 1 : 0;
+  if (!std::cout) {
+    std::cerr << program << ": the listing cannot be written\n";
+    return 1;
+  }
+  return problems.has_errors() ? 1 : 0;
 }
 
 } // namespace

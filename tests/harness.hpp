@@ -1,15 +1,14 @@
 // What the tests see of the library's surroundings: its log lines and its heap.
 #pragma once
 
+#include "zelcsock/clog.h"
 #include "zelcsock/slab.h"
 
 #include <cstddef>
-#include <map>
+#include <cstdlib>
 #include <mutex>
-#include <ostream>
 #include <set>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,19 +25,32 @@ struct log_line {
 // Captures every log line of the process while it lives.
 class captured_log {
 public:
-  captured_log();
-  ~captured_log();
+  captured_log() { clog_host_set_sink(write, this); }
+  ~captured_log() { clog_host_set_sink(nullptr, nullptr); }
   captured_log(const captured_log &) = delete;
   captured_log &operator=(const captured_log &) = delete;
 
   // What has been written since the last call.
-  std::vector<log_line> take();
+  std::vector<log_line> take() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(lines_, {});
+  }
   // The same as "function: text".
-  std::vector<std::string> take_texts();
+  std::vector<std::string> take_texts() {
+    std::vector<std::string> texts;
+    for (const log_line &line : take()) {
+      texts.push_back(line.function + ": " + line.text);
+    }
+    return texts;
+  }
 
 private:
   static void write(void *context, const char *name, const char *file, const char *function, int line,
-                    const char *text);
+                    const char *text) {
+    auto *self = static_cast<captured_log *>(context);
+    const std::lock_guard lock(self->mutex_);
+    self->lines_.push_back({name, file, function, line, text});
+  }
 
   std::mutex mutex_;
   std::vector<log_line> lines_;
@@ -49,35 +61,60 @@ class heap {
 public:
   using tag = std::pair<std::string, int>; // source path and line of a request
 
-  heap();
-  ~heap();
+  heap() { slab_host_set_allocator(&hooks_); }
+  ~heap() { slab_host_set_allocator(nullptr); }
   heap(const heap &) = delete;
   heap &operator=(const heap &) = delete;
 
+  // The k-th request from now on fails (1: the next), alone or with all that follow; 0: none.
+  void fail_only(std::size_t k) { arm(k, false); }
+  void fail_from(std::size_t k) { arm(k, true); }
+
   // Blocks made under this heap and not yet released.
-  std::size_t live() const;
+  std::size_t live() const { return live_.size(); }
   // Requests since construction or the last call of a fail function.
-  std::size_t requests() const;
-  // The k-th request from now on fails (1: the next); 0: none.
-  void fail_only(std::size_t k);
-  // Every request from the k-th on fails; 0: none.
-  void fail_from(std::size_t k);
-  // Tags of all requests, and of those that were failed.
-  std::set<tag> requested() const;
-  std::set<tag> failed() const;
+  std::size_t requests() const { return requests_; }
+  // Tags of all requests, and of those that were failed (alone or with all that follow).
+  const std::set<tag> &requested() const { return requested_; }
+  const std::set<tag> &failed_only() const { return failed_[0]; }
+  const std::set<tag> &failed_from() const { return failed_[1]; }
 
 private:
-  static void *allocate_zeroed(void *context, std::size_t count, std::size_t size, const char *file, int line);
-  static void *resize(void *context, void *ptr, std::size_t size, const char *file, int line);
-  static void release(void *context, void *ptr, const char *file, int line);
-  bool refuse(const char *file, int line);
-  void arm(std::size_t k, bool all);
+  void arm(std::size_t k, bool all) {
+    requests_ = 0;
+    fail_at_ = k;
+    fail_all_ = all;
+  }
+  void *request(void *old, std::size_t count, std::size_t size, const char *file, int line) {
+    const std::lock_guard lock(mutex_);
+    requested_.emplace(file, line);
+    ++requests_;
+    if (fail_at_ != 0 && (requests_ == fail_at_ || (fail_all_ && requests_ > fail_at_))) {
+      failed_[fail_all_ ? 1 : 0].emplace(file, line);
+      return nullptr;
+    }
+    live_.erase(old);
+    void *block = old != nullptr ? std::realloc(old, size) : std::calloc(count, size);
+    live_.insert(block != nullptr ? block : old);
+    return block;
+  }
+  static void *allocate_zeroed(void *context, std::size_t count, std::size_t size, const char *file, int line) {
+    return static_cast<heap *>(context)->request(nullptr, count, size, file, line);
+  }
+  static void *resize(void *context, void *ptr, std::size_t size, const char *file, int line) {
+    return static_cast<heap *>(context)->request(ptr, 1, size, file, line);
+  }
+  static void release(void *context, void *ptr, const char * /*file*/, int /*line*/) {
+    auto *self = static_cast<heap *>(context);
+    const std::lock_guard lock(self->mutex_);
+    self->live_.erase(ptr);
+    std::free(ptr);
+  }
 
-  mutable std::mutex mutex_;
-  slab_host_allocator hooks_;
+  std::mutex mutex_;
+  slab_host_allocator hooks_{this, allocate_zeroed, resize, release};
   std::set<void *> live_;
-  std::set<tag> requested_;
-  std::set<tag> failed_;
+  std::set<tag> requested_, failed_[2];
   std::size_t requests_ = 0;
   std::size_t fail_at_ = 0;
   bool fail_all_ = false;

@@ -20,12 +20,19 @@ namespace harness {
 using zel::ravix::has_record;
 using zel::ravix::record;
 
+// What random records are like: some of what may be absent is; nothing is; they break every rule that a caller can
+// break without a bad pointer (lengths beyond the capacity, texts without end, counts without an array); or their
+// numbers and octets are small, so that most enumerated values have names.
+enum class variety { usual, full, hostile, tame };
+
 class randomness {
 public:
-  // When tame, numbers and octets are small, so that most enumerated values have names.
-  explicit randomness(unsigned seed, bool tame = false) : tame_(tame), engine_(seed) {}
+  explicit randomness(unsigned seed, variety kind = variety::usual)
+      : hostile(kind == variety::hostile), tame_(kind == variety::tame), full_(kind == variety::full), engine_(seed) {}
   // Chosen by the octets, as far as they go.
-  explicit randomness(std::span<const std::uint8_t> chosen) : tame_(false), engine_(0), chosen_(chosen) {}
+  explicit randomness(std::span<const std::uint8_t> chosen, variety kind = variety::usual) : randomness(0, kind) {
+    chosen_ = chosen;
+  }
 
   // From 0 to `most`, the same on every platform.
   [[gnu::noinline]] std::uint32_t up_to(std::uint32_t most) { // inlined, it leads g++ 12 to a warning without reason
@@ -38,76 +45,92 @@ public:
     }
     return static_cast<std::uint32_t>(next % (most + std::uint64_t{1}));
   }
-  template <class T> T number() {
-    T value = static_cast<T>(1);
-    if (tame_) {
-      value = static_cast<T>(value + static_cast<T>(up_to(9)));
-    } else {
-      bytes(&value, sizeof value);
-    }
-    return value;
-  }
-  bool once_in(std::uint32_t n) { return up_to(n - 1) == 0; }
+  // Whether an optional thing is left out, and how many there are of something.
+  bool absent() { return up_to(3) == 0 && !full_; }
+  std::uint32_t some(std::uint32_t most) { return full_ ? 1 + up_to(most - 1) : up_to(most); }
 
   void bytes(void *memory, std::size_t size) {
     for (std::size_t i = 0; i < size; ++i) {
       static_cast<unsigned char *>(memory)[i] = static_cast<unsigned char>(tame_ ? 1 + up_to(9) : up_to(255));
     }
   }
-
-  std::string word(std::size_t longest) {
-    std::string text(up_to(static_cast<std::uint32_t>(longest)), ' ');
-    for (char &character : text) {
-      character = static_cast<char>('a' + up_to(25));
+  template <class T> T number() {
+    T value = 0;
+    if (tame_) {
+      value = static_cast<T>(1 + up_to(9));
+    } else {
+      bytes(&value, sizeof value);
     }
-    return text;
+    return value;
   }
+  void word(char *to, std::size_t longest) {
+    for (std::size_t i = some(static_cast<std::uint32_t>(longest)); i > 0; --i) {
+      *to++ = static_cast<char>('a' + up_to(25));
+    }
+  }
+
+  const bool hostile;
 
 private:
   bool tame_;
+  bool full_;
   std::mt19937 engine_;
   std::span<const std::uint8_t> chosen_;
 };
 
 template <has_record R> void fill(R &r, randomness &random);
 
-// Gives a field a random value. The record is empty, or the field plain.
-template <class R, class T, class Text>
-void fill(const zel::ravix::scalar<R, T, Text> &field, R &r, randomness &random) {
-  if constexpr (std::is_same_v<T, bool>) {
-    r.*field.member = random.once_in(2);
-  } else if constexpr (std::is_floating_point_v<T>) {
-    r.*field.member = static_cast<T>(random.up_to(10000)) / T{8};
+inline char *random_text(randomness &random) {
+  char text[41] = "";
+  random.word(text, 40);
+  return random.absent() ? nullptr : slab_dstrdup(text, "tests", __LINE__);
+}
+
+// A random value: of a record, of what it consists of, or of a table's element. It is empty or owns nothing.
+template <class T> void fill_value(T &value, randomness &random) {
+  if constexpr (has_record<T>) {
+    fill(value, random);
+  } else if constexpr (std::is_same_v<T, char *>) {
+    value = random_text(random);
+  } else if constexpr (std::is_same_v<T, bool>) {
+    value = random.up_to(1) == 1;
+  } else if constexpr (std::is_same_v<T, float>) {
+    value = static_cast<float>(random.up_to(10000)) / 8;
+  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+    if (!random.absent()) {
+      value = record<std::remove_pointer_t<T>>::create();
+      fill(*value, random);
+    }
   } else if constexpr (std::is_integral_v<T>) {
-    r.*field.member = random.template number<T>();
+    value = random.template number<T>();
   } else {
-    random.bytes(&(r.*field.member), sizeof(T));
+    random.bytes(&value, sizeof value);
   }
 }
-template <class R, std::size_t N> void fill(const zel::ravix::bytes<R, N> &field, R &r, randomness &random) {
-  random.bytes(r.*field.member, N);
-}
-template <class R, std::size_t N> void fill(const zel::ravix::enum_array<R, N> &field, R &r, randomness &random) {
-  random.bytes(r.*field.member, N);
+
+// A random value of a field, by default of each of its members.
+template <class Kind, class R> void fill(const Kind &field, R &r, randomness &random) {
+  field.members(
+      r, [&](const auto &member) { fill_value(const_cast<std::remove_cvref_t<decltype(member)> &>(member), random); });
 }
 template <class R, std::size_t N> void fill(const zel::ravix::bounded_text<R, N> &field, R &r, randomness &random) {
-  std::memset(r.*field.member, 0, N);
-  const std::string text = random.word(N - 1);
-  std::memcpy(r.*field.member, text.data(), text.size());
+  std::memset(r.*field.member, random.hostile ? 'x' : 0, N);
+  random.word(r.*field.member, N - 1);
 }
 template <class R, std::size_t N> void fill(const zel::ravix::counted_bytes<R, N> &field, R &r, randomness &random) {
-  r.*field.length = static_cast<std::uint8_t>(random.up_to(N - 1));
+  const std::uint32_t length = random.up_to(N - 1);
   std::memset(r.*field.octets, 0, N);
-  random.bytes(r.*field.octets, r.*field.length);
+  random.bytes(r.*field.octets, length);
+  r.*field.length = static_cast<std::uint8_t>(length + (random.hostile ? N : 0));
 }
 // Secrets begin with a mark that nothing else has, so that it can be looked for in outputs.
 inline constexpr char secret_mark[] = "ZZZZ";
 inline constexpr std::size_t secret_mark_length = sizeof secret_mark - 1;
 template <class R, std::size_t N>
 void fill(const zel::ravix::secret<zel::ravix::bounded_text<R, N>> &field, R &r, randomness &random) {
-  const std::string text = secret_mark + random.word(N - 1 - secret_mark_length);
-  std::memset(r.*field.member, 0, N);
-  std::memcpy(r.*field.member, text.data(), text.size());
+  std::memset(r.*field.member, random.hostile ? 'x' : 0, N);
+  std::memcpy(r.*field.member, secret_mark, secret_mark_length);
+  random.word(&(r.*field.member)[secret_mark_length], N - 1 - secret_mark_length);
 }
 template <class R, std::size_t N>
 void fill(const zel::ravix::secret<zel::ravix::counted_bytes<R, N>> &field, R &r, randomness &random) {
@@ -115,166 +138,126 @@ void fill(const zel::ravix::secret<zel::ravix::counted_bytes<R, N>> &field, R &r
   r.*field.length = std::max(r.*field.length, static_cast<std::uint8_t>(secret_mark_length));
   std::memcpy(r.*field.octets, secret_mark, secret_mark_length);
 }
-template <class R, class T> void fill(const zel::ravix::nested<R, T> &field, R &r, randomness &random) {
-  fill(r.*field.member, random);
-}
-template <class R, class T> void fill(const zel::ravix::owned<R, T> &field, R &r, randomness &random) {
-  if (!random.once_in(4)) {
-    r.*field.member = record<T>::create();
-    fill(*(r.*field.member), random);
-  }
-}
-// Never null: a role without it is incomplete.
-template <class R, class T> void fill(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
-  r.*field.member = record<T>::create();
-  fill(*(r.*field.member), random);
-}
-inline void choose_tag(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
-  rule.type = 1 + random.up_to(1);
-}
-inline void choose_tag(ravix_cfg_role_static_t &role, randomness &random) {
-  role.op_mode = random.once_in(2) ? RAVIX_ROLE_OPMODE_REPEATER : RAVIX_ROLE_OPMODE_AP_HOTSPOT_OWE;
-}
-template <class Tag, class Wide, class Other, class R>
-void fill(const zel::ravix::tagged<Tag, Wide, Other> &field, R &r, randomness &random) {
-  if (Tag::of(r) == zel::ravix::alternative::none) {
-    choose_tag(r, random);
-  }
-  field.use(r, [&](const auto &alternative) { fill(alternative, r, random); });
-}
-inline char *random_text(randomness &random) {
-  return random.once_in(4) ? nullptr : slab_dstrdup(random.word(40).c_str(), "tests", __LINE__);
-}
-template <class R> void fill(const zel::ravix::owned_text<R> &field, R &r, randomness &random) {
-  r.*field.member = random_text(random);
-}
 template <class R> void fill(const zel::ravix::owned_bytes<R> &field, R &r, randomness &random) {
-  if (random.once_in(4)) {
-    return;
-  }
-  r.*field.length = static_cast<std::uint8_t>(1 + random.up_to(254));
-  r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
-  random.bytes(r.*field.octets, r.*field.length);
-}
-template <class E> void fill_element(E &element, randomness &random) {
-  if constexpr (has_record<E>) {
-    fill(element, random);
-  } else if constexpr (std::is_same_v<E, char *>) {
-    element = random_text(random);
-  } else {
-    if constexpr (std::is_integral_v<E>) {
-      element = random.template number<E>();
-    } else {
-      random.bytes(&element, sizeof element);
-    }
+  r.*field.length = static_cast<std::uint8_t>(random.some(255));
+  if (r.*field.length != 0 && !random.hostile) {
+    r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
+    random.bytes(r.*field.octets, r.*field.length);
   }
 }
 template <class T> void fill_table(T &table, std::uint32_t count, randomness &random) {
   record<T>::init(&table, count);
   for (std::uint32_t i = 0; i < table.count; ++i) {
-    fill_element(table.data[i], random);
+    fill_value(table.data[i], random);
   }
 }
 template <class T, class E, class Text>
 void fill(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
-  fill_table(table, random.up_to(3), random);
+  if (random.hostile && random.absent()) {
+    table.count = random.up_to(UINT32_MAX);
+    return;
+  }
+  fill_table(table, random.some(3), random);
+}
+template <class R, class T> void fill(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
+  do {
+    fill_value(r.*field.member, random);
+  } while (r.*field.member == nullptr && !random.hostile); // a role without it is refused
+}
+inline void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
+  rule.type = 1 + random.up_to(1);
+}
+inline void choose(ravix_cfg_role_static_t &role, randomness &random) {
+  role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
+}
+template <class Tag, class Wide, class Other>
+void fill(const zel::ravix::tagged<Tag, Wide, Other> &field, typename Tag::record_type &r, randomness &random) {
+  using zel::ravix::alternative;
+  while (Tag::of(r) == alternative::none && !random.hostile) {
+    choose(r, random);
+  }
+  if (Tag::of(r) != alternative::none) {
+    Tag::of(r) == alternative::wide ? fill(field.wide, r, random) : fill(field.other, r, random);
+  }
 }
 
-// Makes a random record one that its own rules accept.
-template <class R> void settle(R & /*r*/, randomness & /*random*/) {}
-inline void settle(ravix_ip_addr_t &address, randomness &random) {
-  address.version = static_cast<std::uint8_t>(1 + random.up_to(1));
+// An attribute of a kind is filled as the kind.
+template <template <class> class Attribute, class Kind, class R>
+requires(std::is_base_of_v<Kind, Attribute<Kind>>) void fill(const Attribute<Kind> &field, R &r, randomness &random) {
+  fill(static_cast<const Kind &>(field), r, random);
 }
 
-// Fills an empty record.
+// Fills an empty record with what its own rules accept.
 template <has_record R> void fill(R &r, randomness &random) {
   zel::ravix::for_each_field<R>([&](const auto &field) { fill(field, r, random); });
-  settle(r, random);
+  if constexpr (std::is_same_v<R, ravix_ip_addr_t>) {
+    r.version = static_cast<std::uint8_t>(random.hostile ? 77 : 1 + random.up_to(1));
+  }
 }
 
 template <has_record R> std::string difference(const R &a, const R &b);
 
-// Tells whether a field is the same in both records without any memory in common.
-template <class Kind, class R>
-requires(Kind::is_flat) bool alike(const Kind &field, const R &a, const R &b) {
-  const auto bytes = [&](const R &r) {
-    std::string all;
-    field.members(r, [&](const auto &member) { all.append(reinterpret_cast<const char *>(&member), sizeof member); });
-    return all;
-  };
-  return bytes(a) == bytes(b);
+// Tells whether two values are the same without any memory in common.
+template <class T> bool alike_values(const T &a, const T &b) {
+  if constexpr (has_record<T>) {
+    return difference(a, b).empty();
+  } else if constexpr (std::is_same_v<T, char *>) {
+    return a == nullptr || b == nullptr ? a == b : a != b && std::strcmp(a, b) == 0;
+  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+    return a == nullptr || b == nullptr ? a == b : a != b && alike_values(*a, *b);
+  } else {
+    return std::memcmp(&a, &b, sizeof a) == 0;
+  }
 }
-template <class R, class T>
-requires(!zel::ravix::nested<R, T>::is_flat) bool alike(const zel::ravix::nested<R, T> &field, const R &a, const R &b) {
-  return difference(a.*field.member, b.*field.member).empty();
+
+// Tells the same of a field, by default member by member.
+template <class Kind, class R> bool alike(const Kind &field, const R &a, const R &b) {
+  bool same = true;
+  field.members(a, [&](const auto &member) {
+    const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&a);
+    const auto *other = reinterpret_cast<const char *>(&b) + offset;
+    same = same && alike_values(member, *reinterpret_cast<decltype(&member)>(other));
+  });
+  return same;
 }
-template <class T> bool alike_pointees(const T *a, const T *b) {
-  return a == nullptr || b == nullptr ? a == b : a != b && difference(*a, *b).empty();
-}
-template <class R, class T> bool alike(const zel::ravix::owned<R, T> &field, const R &a, const R &b) {
-  return alike_pointees(a.*field.member, b.*field.member);
-}
-template <class Tag, class Wide, class Other, class R>
-bool alike(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &a, const R &b) {
-  // Without a tag there is nothing but storage, which an empty record has empty.
-  bool same = std::memcmp(&(a.*field.wide.member), &(b.*field.wide.member), sizeof(a.*field.wide.member)) == 0;
-  field.use(a, [&](const auto &alternative) { same = alike(alternative, a, b); });
-  return Tag::of(a) == Tag::of(b) && same;
-}
-inline bool alike_texts(const char *a, const char *b) {
-  return a == nullptr || b == nullptr ? a == b : a != b && std::strcmp(a, b) == 0;
-}
-template <class R> bool alike(const zel::ravix::owned_text<R> &field, const R &a, const R &b) {
-  return alike_texts(a.*field.member, b.*field.member);
+// Two arrays of that many elements each.
+template <class E> bool alike_arrays(const E *a, std::size_t count_a, const E *b, std::size_t count_b) {
+  bool same = count_a == count_b && (a == nullptr) == (b == nullptr) && (a == nullptr || a != b);
+  for (std::size_t i = 0; same && a != nullptr && i < count_a; ++i) {
+    same = alike_values(a[i], b[i]);
+  }
+  return same;
 }
 template <class R> bool alike(const zel::ravix::owned_bytes<R> &field, const R &a, const R &b) {
-  const std::uint8_t *first = a.*field.octets;
-  const std::uint8_t *second = b.*field.octets;
-  const std::size_t length = a.*field.length;
-  return a.*field.length == b.*field.length &&
-         (length == 0 ? first == nullptr && second == nullptr
-                      : first != second && std::memcmp(first, second, length) == 0);
+  return alike_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length);
 }
 template <class T, class E, class Text>
 bool alike(const zel::ravix::entries<T, E, Text> & /*field*/, const T &a, const T &b) {
-  if (a.count != b.count || (a.data == nullptr) != (b.data == nullptr) || (a.data != nullptr && a.data == b.data)) {
-    return false;
-  }
-  for (std::uint32_t i = 0; i < a.count; ++i) {
-    if constexpr (has_record<E>) {
-      if (!difference(a.data[i], b.data[i]).empty()) {
-        return false;
-      }
-    } else if constexpr (std::is_same_v<E, char *>) {
-      if (!alike_texts(a.data[i], b.data[i])) {
-        return false;
-      }
-    } else if (std::memcmp(&a.data[i], &b.data[i], sizeof(E)) != 0) {
-      return false;
-    }
-  }
-  return true;
+  return alike_arrays(a.data, a.count, b.data, b.count);
+}
+template <class Tag, class Wide, class Other>
+bool alike(const zel::ravix::tagged<Tag, Wide, Other> &field, const typename Tag::record_type &a,
+           const typename Tag::record_type &b) {
+  return Tag::of(a) == zel::ravix::alternative::other ? alike(field.other, a, b) : alike(field.wide, a, b);
 }
 
 // Name of the first field that is not alike; empty for records that are the same and share nothing.
 template <has_record R> std::string difference(const R &a, const R &b) {
   std::string name;
   zel::ravix::all_fields<R>([&](const auto &field) {
-    if (!alike(field, a, b)) {
-      name = field.name;
-    }
+    name = alike(field, a, b) ? "" : field.name;
     return name.empty();
   });
   return name;
 }
 
-// A record of its own on the stack: filled at random from a seed, or empty.
-template <class R> struct sample {
-  R value;
+// A record of its own on the stack, empty or filled at random, and cleared at the end.
+template <has_record R> struct sample {
+  R value{};
 
-  sample() : value() { record<R>::clear(&value); }
+  sample() { record<R>::clear(&value); }
   explicit sample(randomness random) : sample() { fill(value, random); }
-  explicit sample(unsigned seed, bool tame = false) : sample(randomness(seed, tame)) {}
+  explicit sample(unsigned seed, variety kind = variety::usual) : sample(randomness(seed, kind)) {}
   explicit sample(std::span<const std::uint8_t> chosen) : sample(randomness(chosen)) {}
   ~sample() { record<R>::clear(&value); }
   sample(const sample &) = delete;
@@ -286,6 +269,7 @@ template <class R> std::string name_of() {
   return std::string(mangled.substr(mangled.find_first_not_of("0123456789")));
 }
 
+// Runs a check for every record type.
 template <class... R, class Check> void for_all(type_list<R...> /*records*/, Check check) {
   const auto run = [&]<class T>(T * /*type*/) {
     SCOPED_TRACE(typeid(T).name());
@@ -293,7 +277,6 @@ template <class... R, class Check> void for_all(type_list<R...> /*records*/, Che
   };
   (run(static_cast<R *>(nullptr)), ...);
 }
-
 template <class Check> void for_all_records(Check check) {
   for_all(all_records{}, check);
 }

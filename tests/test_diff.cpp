@@ -19,6 +19,7 @@ using harness::for_all_records;
 using harness::name_of;
 using harness::randomness;
 using harness::sample;
+using harness::variety;
 using zel::ravix::record;
 using zel::ravix::table_record;
 
@@ -60,13 +61,13 @@ TEST(Differences, OfRecordsEmptyFilledAndOfEachField) {
   outputs golden;
   for_all_records([&]<class R>() {
     if constexpr (diffable<R> && !table_record<R>) {
-      const sample<R> reference(4, true);
+      const sample<R> reference(4, variety::tame);
       expect_forms(reference.value);
       golden.add(name_of<R>(), diff(reference.value, nothing<R>, "value", 1, false));
       golden.add(name_of<R>() + ", empty", diff(sample<R>().value, nothing<R>, nullptr));
-      randomness random(1, true);
+      randomness random(1, variety::tame);
       zel::ravix::for_each_field<R>([&](const auto &field) {
-        sample<R> other(4, true);
+        sample<R> other(4, variety::tame);
         const std::string name = field.name;
         if (name == "op_mode" || name == "type") {
           return; // would be a record of another kind
@@ -89,7 +90,7 @@ TEST(Differences, OfTables) {
       for (const unsigned count : {0U, 1U, 5U, 6U, 11U, 50U, 51U}) {
         sample<T> table;
         const sample<T> none;
-        randomness random(3, true);
+        randomness random(3, variety::tame);
         fill_table(table.value, count, random);
         expect_forms(table.value);
         const std::string whole = diff(table.value, nothing<T>, "value", 1, false);
@@ -160,7 +161,7 @@ TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
   add("role state that has found a partner", linked, &single);
   add("role state of no multi-link device, without a line end", single, nothing<state>, false);
 
-  const sample<ravix_cfg_radius_server_t> server(1, true);
+  const sample<ravix_cfg_radius_server_t> server(1, variety::tame);
   ravix_cfg_radius_server_t moved = server.value;
   moved.index = -9;
   EXPECT_EQ(diff(moved, &server.value), "") << "a server is the same wherever it stands";

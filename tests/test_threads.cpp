@@ -1,0 +1,108 @@
+// What holds when many threads use the library at once, and when a log sink uses it.
+#include "record_tools.hpp"
+
+#include "ravix_types_str_convert.h"
+#include "ravix_types_validation.h"
+#include "zelcsock/clog.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using harness::difference;
+using harness::sample;
+using zel::ravix::record;
+
+// Fails every n-th request of a thread that asks for it; counts blocks.
+thread_local unsigned fail_every = 0;
+thread_local unsigned requests = 0;
+std::atomic<long> live_blocks;
+std::atomic<long> lines;
+
+void *request(void *old, std::size_t size) {
+  if (fail_every != 0 && ++requests % fail_every == 0) {
+    return nullptr;
+  }
+  live_blocks += old == nullptr ? 1 : 0;
+  return old == nullptr ? std::calloc(1, size) : std::realloc(old, size);
+}
+
+const slab_host_allocator failing = {
+    nullptr, [](void *, size_t count, size_t size, const char *, int) { return request(nullptr, count * size); },
+    [](void *, void *ptr, size_t size, const char *, int) { return request(ptr, size); },
+    [](void *, void *ptr, const char *, int) {
+      --live_blocks;
+      std::free(ptr);
+    }};
+
+// A sink that formats values and works on records, which may log in turn, while the library logs.
+void busy_sink(void * /*context*/, const char * /*name*/, const char * /*file*/, const char * /*function*/, int line,
+               const char * /*text*/) {
+  static thread_local int depth = 0;
+  ++lines;
+  if (++depth == 1) {
+    EXPECT_STRNE(ravix_str_frequency(static_cast<std::uint32_t>(line)), "");
+    EXPECT_EQ(ravix_types_ssid_clone(nullptr), nullptr);
+  }
+  --depth;
+}
+
+TEST(Threads, WorkOnRecordsOfTheirOwnWhileAllocationsFailAndLinesAreLogged) {
+  const char *wanted = std::getenv("RAVIX_TEST_ROUNDS"); // NOLINT(concurrency-mt-unsafe)
+  const unsigned rounds = wanted != nullptr ? static_cast<unsigned>(std::strtoul(wanted, nullptr, 10)) : 5;
+  slab_host_set_allocator(&failing);
+  clog_host_set_sink(busy_sink, nullptr);
+  std::atomic<unsigned> copied{0}, refused{0}, torn{0};
+  std::vector<std::thread> workers;
+  for (unsigned id = 0; id < 8; ++id) {
+    workers.emplace_back([&, id] {
+      for (unsigned round = 0; round < rounds; ++round) {
+        harness::for_all_records([&]<class R>() {
+          const sample<R> source(id + round * 8);
+          sample<R> dest(id);
+          fail_every = 3 + round % 5;
+          R *clone = record<R>::clone(&source.value);
+          const bool is_copied = record<R>::copy(&source.value, &dest.value) == 0;
+          fail_every = 0;
+          const R &expected = is_copied ? source.value : sample<R>().value;
+          torn += harness::copies_leniently<R> || difference(dest.value, expected).empty() ? 0 : 1;
+          torn += harness::copies_leniently<R> || clone == nullptr || difference(*clone, source.value).empty() ? 0 : 1;
+          record<R>::free(clone);
+          (is_copied ? copied : refused)++;
+        });
+      }
+    });
+  }
+  for (std::thread &worker : workers) {
+    worker.join();
+  }
+  clog_host_set_sink(nullptr, nullptr);
+  slab_host_set_allocator(nullptr);
+  EXPECT_EQ(torn, 0U);
+  EXPECT_GT(copied, 0U);
+  EXPECT_GT(refused, 0U);
+  EXPECT_GT(lines, static_cast<long>(refused));
+  EXPECT_EQ(live_blocks, 0);
+}
+
+// Lines of every kind: of the frame, the tables, the parsers, the validator and the assertions.
+TEST(Threads, ASinkMayUseTheLibraryWhateverLogs) {
+  clog_host_set_sink(busy_sink, nullptr);
+  lines = 0;
+  const ravix_cfg_auto_update_rule_t rule{};
+  ravix_cfg_auto_update_rule_t dest{};
+  std::uint8_t mac[RAVIX_MAC_LEN];
+  EXPECT_EQ(ravix_cfg_auto_update_rule_copy(&rule, &dest), -22);
+  EXPECT_EQ(ravix_types_id_table_add_entry(nullptr, nullptr), -22);
+  EXPECT_FALSE(ravix_mac_from_str("no address", mac));
+  EXPECT_FALSE(ravix_types_mac_table_contains_entry(nullptr, &mac));
+  clog_host_set_sink(nullptr, nullptr);
+  EXPECT_GE(lines, 2 * 4);
+}
+
+} // namespace

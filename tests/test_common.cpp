@@ -19,28 +19,6 @@ namespace {
 
 using texts = std::vector<std::string>;
 
-// Size on 64-bit and on 32-bit machines.
-constexpr bool has_size(std::size_t size, std::size_t wide, std::size_t narrow) {
-  return size == (sizeof(void *) == 8 ? wide : narrow);
-}
-
-static_assert(has_size(sizeof(ravix_channel_info_t), 12, 12));
-static_assert(offsetof(ravix_channel_info_t, puncture_map) == 10);
-static_assert(has_size(sizeof(ravix_ip_addr_t), 17, 17));
-static_assert(has_size(sizeof(ravix_key_t), 66, 66));
-static_assert(has_size(sizeof(ravix_ssid_t), 34, 34));
-static_assert(has_size(sizeof(ravix_tlv_t), 16, 8));
-static_assert(has_size(sizeof(ravix_mac_table_t), 16, 8));
-static_assert(has_size(sizeof(ravix_scan_entry_t), 64, 64));
-static_assert(offsetof(ravix_scan_entry_t, channel_info) == 44);
-static_assert(has_size(sizeof(ravix_scan_results_t), 40, 24));
-static_assert(offsetof(ravix_scan_results_t, noisefloor_table) == 8);
-static_assert(has_size(sizeof(ravix_scan_parameter_t), 48, 24));
-static_assert(has_size(sizeof(ravix_channel_entry_t), 20, 20));
-static_assert(has_size(sizeof(ravix_noisefloor_entry_t), 8, 8));
-static_assert(has_size(sizeof(ravix_radio_airtime_table_t), 16, 12));
-static_assert(has_size(sizeof(ravix_start_scan_request_t), 16, 8));
-
 // A record with a length that may exceed its capacity.
 template <class T>
 void expect_bounded(T longest, int (*copy)(const T *, T *), T *(*clone)(const T *), const char *limit) {
@@ -256,21 +234,6 @@ TEST(ScanRecords, AirtimeBaseTravelsWithItsTable) {
   ravix_types_radio_airtime_table_free(clone);
   ravix_types_radio_airtime_table_free(table);
   EXPECT_EQ(heap.live(), 0U);
-}
-
-TEST(ScanRecords, StartWithWhatIsNotKnown) {
-  ravix_scan_results_t results{};
-  ravix_types_scan_results_clear(&results);
-  EXPECT_EQ(results.scan_time, INT64_MAX);
-  ravix_scan_entry_t entry{};
-  ravix_types_scan_entry_clear(&entry);
-  EXPECT_EQ(entry.rssi, 32767);
-  ravix_channel_entry_t channel{};
-  ravix_types_channel_entry_clear(&channel);
-  EXPECT_EQ(channel.max_power, 32767);
-  ravix_noisefloor_entry_t noise{};
-  ravix_types_noisefloor_entry_clear(&noise);
-  EXPECT_EQ(noise.noisefloor + noise.load, 510);
 }
 
 } // namespace

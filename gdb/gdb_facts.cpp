@@ -54,8 +54,13 @@ template <class T> std::vector<T> special_values() {
     std::set<T> values;
     for (int i = 0; i < 256; ++i) {
       for (const T from : {T{0}, limits::min(), limits::max(), static_cast<T>(UINT32_C(1) << 31)}) {
-        values.insert(static_cast<T>(from + static_cast<T>(i)));
-        values.insert(static_cast<T>(from - static_cast<T>(i)));
+        T value{};
+        if (!__builtin_add_overflow(from, i, &value)) {
+          values.insert(value);
+        }
+        if (!__builtin_sub_overflow(from, i, &value)) {
+          values.insert(value);
+        }
       }
     }
     values.insert(static_cast<T>(RAVIX_POWER_INVALID));

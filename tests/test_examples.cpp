@@ -18,6 +18,7 @@
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -36,13 +37,16 @@ std::string replaced(std::string text, const std::string &from, const std::strin
 
 struct outcome {
   int status = -1;
-  std::string output; // standard output and standard error
+  std::string output; // standard error, then standard output: how they interleave is up to the C library's buffers
 };
 
 // Runs one of the programs, by a shell for its redirections.
 outcome run(const std::string &command_line) {
   outcome result;
-  const std::string given = replaced(RAVIX_EXAMPLE_RUN + command_line + " 2>&1", "$DATA", RAVIX_EXAMPLE_DATA);
+  const std::string kept = testing::TempDir() + "ravix-output-" + std::to_string(getpid());
+  const std::string given = replaced("{ " RAVIX_EXAMPLE_RUN + command_line + " >" + kept + "; status=$?; cat " + kept +
+                                         "; rm " + kept + "; exit $status; } 2>&1",
+                                     "$DATA", RAVIX_EXAMPLE_DATA);
   std::FILE *pipe = popen(replaced(given, "$CASES", RAVIX_TEST_DATA).c_str(),
                           "r"); // NOLINT(cert-env33-c): all commands are written by us
   if (pipe == nullptr)

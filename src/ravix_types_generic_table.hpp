@@ -166,7 +166,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
     return out_of_memory;
   }
   if (entry_is_own) {
-    entry = reinterpret_cast<entry_of<T> *>(reinterpret_cast<std::uintptr_t>(grown) + offset);
+    entry = grown + offset / sizeof(E);
   }
   table->data = grown;
   table->count = count;

@@ -115,7 +115,7 @@ void printer::index(std::uint32_t i, std::uint32_t count) {
   for (std::size_t at = width; at == width || i != 0; --at, i /= 10) {
     piece[at] = static_cast<char>('0' + i % 10);
   }
-  std::memcpy(piece + width + 1, "]: ", 3);
+  std::copy_n("]: ", 3, piece + width + 1);
   text({piece, width + 4});
 }
 

@@ -46,13 +46,14 @@ jobs_wanted() {
   echo $((count < 2 ? 2 : count))
 }
 
-# need <what>=<package>...: installs the Debian packages of what is missing. <what> is a command, or the path of a file.
+# need <what>=<package>...: installs the Debian packages of what is missing. <what> is a command, or the path of a file,
+# which may be a pattern.
 need() {
   local pair what missing=()
   for pair in "$@"; do
     what=${pair%%=*}
     if [[ $what == /* ]]; then
-      [[ -e $what ]] || missing+=("${pair#*=}")
+      compgen -G "$what" >/dev/null || missing+=("${pair#*=}")
     else
       command -v "$what" >/dev/null || missing+=("${pair#*=}")
     fi
@@ -81,6 +82,12 @@ need() {
 # shellcheck disable=SC2120 # mostly called without arguments
 need_build_tools() {
   need cmake=cmake ninja=ninja-build g++=g++ make=make pkg-config=pkgconf /usr/include/gtest/gtest.h=libgtest-dev "$@"
+}
+
+# What clang's builds need besides; its sanitizers and fuzzer are in a package of their own.
+# shellcheck disable=SC2120 # mostly called without arguments
+need_clang_tools() {
+  need_build_tools clang++=clang '/usr/lib/llvm-*/lib/clang/*/lib/*/libclang_rt.fuzzer-*.a=libclang-rt-dev' "$@"
 }
 
 # What the benchmarks need besides.

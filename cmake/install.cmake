@@ -51,6 +51,11 @@ install(FILES ${PROJECT_BINARY_DIR}/cmake/ravix_types-config.cmake
 
 file(RELATIVE_PATH ravix_pc_to_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 string(REGEX REPLACE "/$" "" ravix_pc_to_prefix "${ravix_pc_to_prefix}")
+# What the archive needs: asked for by `pkg-config --static`, and by every program where there is nothing but the archive.
+set(ravix_pc_libs_private "-lzelcsock -lstdc++ -lm")
+if(NOT BUILD_SHARED_LIBS)
+  set(ravix_pc_libs " ${ravix_pc_libs_private}")
+endif()
 configure_file(cmake/ravix_types.pc.in ${PROJECT_BINARY_DIR}/ravix_types.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ravix_types.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT types-dev)
 

@@ -2,7 +2,12 @@
 find_library(ZELCSOCK_LIBRARY zelcsock REQUIRED)
 find_path(ZELCSOCK_INCLUDE_DIR zelcsock/slab.h REQUIRED)
 if(NOT TARGET ravix::zelcsock)
-  add_library(ravix::zelcsock UNKNOWN IMPORTED)
+  # Of a shared library the linker is told the directory when it links a program to libravix_types.so.
+  if(ZELCSOCK_LIBRARY MATCHES "\\.a$")
+    add_library(ravix::zelcsock STATIC IMPORTED)
+  else()
+    add_library(ravix::zelcsock SHARED IMPORTED)
+  endif()
   set_target_properties(ravix::zelcsock PROPERTIES IMPORTED_LOCATION ${ZELCSOCK_LIBRARY}
                                                    INTERFACE_INCLUDE_DIRECTORIES ${ZELCSOCK_INCLUDE_DIR})
 endif()

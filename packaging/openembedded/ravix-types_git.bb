@@ -7,7 +7,8 @@ LIC_FILES_CHKSUM = "file://LICENSE;md5=45fde71909c48f9cf0278bf8cbe9a6db"
 RAVIX_GIT ?= "git:///srv/git/libravix_types;protocol=file;branch=main"
 SRC_URI = "${RAVIX_GIT}"
 SRCREV ?= "${AUTOREV}"
-PV = "1.0.0+git${SRCPV}"
+PV = "1.0.0+git"
+# Where releases up to 5.0 unpack it; later ones need no such line.
 S = "${WORKDIR}/git"
 
 inherit cmake pkgconfig

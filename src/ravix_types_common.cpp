@@ -45,28 +45,10 @@ int zel::ravix::element<char *>::copy(const char *const *src, char **dest) {
 }
 
 RAVIX_COMPARED_RECORD(ravix_types_channel_info, ravix_channel_info_t)
+RAVIX_COMPARED_RECORD(ravix_types_ip_addr, ravix_ip_addr_t)
 RAVIX_COMPARED_RECORD(ravix_types_key, ravix_key_t)
 RAVIX_COMPARED_RECORD(ravix_types_ssid, ravix_ssid_t)
 RAVIX_COMPARED_RECORD(ravix_types_tlv, ravix_tlv_t)
-RAVIX_RECORD(ravix_types_ip_addr, ravix_ip_addr_t)
-
-int ravix_types_ip_addr_compare(const ravix_ip_addr_t *a, const ravix_ip_addr_t *b) {
-  if (a == nullptr || b == nullptr) {
-    return (a != nullptr) - (b != nullptr);
-  }
-  if (a->version != b->version) {
-    return a->version < b->version ? -1 : 1;
-  }
-  switch (a->version) {
-  case RAVIX_IP_VERSION_4:
-    return std::memcmp(a->addr, b->addr, 4);
-  case RAVIX_IP_VERSION_6:
-    return std::memcmp(a->addr, b->addr, sizeof a->addr);
-  default:
-    return -1; // deliberate: what is no address equals nothing, not even itself
-  }
-}
-
 RAVIX_COMPARED_TABLE(ravix_types_frequency_table, ravix_frequency_table_t)
 RAVIX_COMPARED_TABLE(ravix_types_id_table, ravix_id_table_t)
 RAVIX_COMPARED_TABLE(ravix_types_mac_table, ravix_mac_table_t)

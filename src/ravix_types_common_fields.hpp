@@ -18,12 +18,29 @@ template <> struct record<ravix_channel_info_t> {
   };
 };
 
+// The octets of an address, of which those of its version count.
+struct address_octets : bytes<ravix_ip_addr_t, 16> {
+  using R = ravix_ip_addr_t;
+  constexpr address_octets() : bytes{&R::addr, "addr", ravix_str_uuid} {}
+
+  static int compare(const R &a, const R &b) {
+    switch (a.version) {
+    case RAVIX_IP_VERSION_4:
+      return compare_octets<4>(a.addr, b.addr);
+    case RAVIX_IP_VERSION_6:
+      return compare_octets<16>(a.addr, b.addr);
+    default:
+      return -1; // deliberate: what is no address equals nothing, not even itself
+    }
+  }
+};
+
 template <> struct record<ravix_ip_addr_t> {
   RAVIX_COMPARED_OPERATIONS(ravix_types_ip_addr)
   using R = ravix_ip_addr_t;
   static constexpr std::tuple fields{
       scalar{&R::version, "version"},
-      bytes{&R::addr, "addr", ravix_str_uuid},
+      address_octets{},
   };
 };
 

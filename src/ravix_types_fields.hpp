@@ -32,6 +32,13 @@
 #include <type_traits>
 #include <utility>
 
+// A comparison is one function, without calls from record to record; where code is to be small, these calls stay.
+#ifdef __OPTIMIZE_SIZE__
+#define RAVIX_FLATTEN
+#else
+#define RAVIX_FLATTEN [[gnu::flatten]]
+#endif
+
 namespace zel::ravix {
 
 // Specialised for each record: `fields` and, by RAVIX_OPERATIONS, the record's exported operations.
@@ -42,13 +49,20 @@ concept has_record = requires {
   record<T>::fields;
 };
 
-template <class R, class Visit> constexpr void for_each_field(Visit visit) {
-  std::apply([&](const auto &...field) { (visit(field), ...); }, record<R>::fields);
-}
-
 // All of the fields satisfy the predicate; stops at the first that does not.
 template <class R, class Predicate> constexpr bool all_fields(Predicate holds) {
-  return std::apply([&](const auto &...field) { return (holds(field) && ...); }, record<R>::fields);
+  constexpr std::size_t count = std::tuple_size_v<std::remove_cvref_t<decltype(record<R>::fields)>>;
+  return [&]<std::size_t... i>(std::index_sequence<i...>) {
+    return (holds(std::get<i>(record<R>::fields)) && ...);
+  }
+  (std::make_index_sequence<count>{});
+}
+
+template <class R, class Visit> constexpr void for_each_field(Visit visit) {
+  all_fields<R>([&](const auto &field) {
+    visit(field);
+    return true;
+  });
 }
 
 // What a failed copy of a field logs and returns. Without a message the field has said what there is to say; with the
@@ -165,7 +179,7 @@ template <class R> int record_copy(const R *src, R *dest, call_site site) {
   return copy_or_clear(src, dest, site);
 }
 
-template <class R> int record_compare(const R *a, const R *b) {
+template <class R> RAVIX_FLATTEN int record_compare(const R *a, const R *b) {
   if (a == nullptr || b == nullptr) {
     return (a != nullptr) - (b != nullptr);
   }
@@ -197,8 +211,63 @@ template <has_record R> struct element<R> {
     return record<R>::copy(src, dest);
   }
 
-  static int compare(const R *a, const R *b) { return record<R>::compare(a, b); }
+  static int compare(const R *a, const R *b) { return compare_fields(*a, *b); }
 };
+
+// ---- octets in words
+
+// All bits that are set in any word of N octets, each word being what `word_at` makes of the octets from an offset on.
+// The last word overlaps the one before it.
+template <std::size_t N, class WordAt> [[gnu::always_inline]] inline std::uintptr_t bits_in_words(WordAt word_at) {
+  using word = std::conditional_t<N >= sizeof(std::uintptr_t), std::uintptr_t,
+                                  std::conditional_t<N >= sizeof(std::uint32_t), std::uint32_t, std::uint8_t>>;
+  return [&]<std::size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+    return (static_cast<std::uintptr_t>(word_at(std::min(i * sizeof(word), N - sizeof(word)), word{})) | ...);
+  }
+  (std::make_index_sequence<(N + sizeof(word) - 1) / sizeof(word)>{});
+}
+
+template <class Word> [[gnu::always_inline]] inline Word load_word(const void *octets, std::size_t at, Word word) {
+  std::memcpy(&word, static_cast<const std::uint8_t *>(octets) + at, sizeof word);
+  return word;
+}
+
+// Masks of N octets: of all past the first `used`, and of the first `used`.
+template <std::size_t N> struct octet_masks {
+  static constexpr auto octets = [] {
+    std::array<std::uint8_t, 3 * N> zeros_ones_zeros{};
+    std::fill_n(zeros_ones_zeros.begin() + N, N, std::uint8_t{UINT8_MAX});
+    return zeros_ones_zeros;
+  }();
+  static const std::uint8_t *past(std::size_t used) { return &octets[N - used]; }
+  static const std::uint8_t *first(std::size_t used) { return &octets[2 * N - used]; }
+};
+
+// Tells whether the octets from `used` on are 0, as in every record that was a copy before. Reading them in words under
+// a mask costs less than writing them: the lengths of SSIDs follow no pattern that a branch or a call could profit
+// from.
+template <std::size_t N> [[gnu::always_inline]] inline bool rest_is_zero(const std::uint8_t *octets, std::size_t used) {
+  const std::uint8_t *rest = octet_masks<N>::past(used);
+  return bits_in_words<N>(
+             [=](std::size_t at, auto word) { return load_word(octets, at, word) & load_word(rest, at, word); }) == 0;
+}
+
+// The first `used` of N octets, compared as memcmp does. Most are alike, and that takes a few instructions to find out.
+template <std::size_t N>
+[[gnu::always_inline]] inline int compare_octets(const std::uint8_t *a, const std::uint8_t *b, std::size_t used) {
+  const std::uint8_t *counted = octet_masks<N>::first(used);
+  const bool same = bits_in_words<N>([=](std::size_t at, auto word) {
+                      return (load_word(a, at, word) ^ load_word(b, at, word)) & load_word(counted, at, word);
+                    }) == 0;
+  return same ? 0 : std::memcmp(a, b, used);
+}
+
+template <std::size_t N>
+[[gnu::always_inline]] inline int compare_octets(const std::uint8_t *a, const std::uint8_t *b) {
+  const bool same =
+      bits_in_words<N>([=](std::size_t at, auto word) { return load_word(a, at, word) ^ load_word(b, at, word); }) == 0;
+  return same ? 0 : std::memcmp(a, b, N);
+}
 
 // ---- kinds of field
 
@@ -267,39 +336,9 @@ template <class R, std::size_t N> struct bytes : plain_kind {
   void clear(R &r, call_site /*site*/) const { std::memset(r.*member, 0, N); }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const { std::memcpy(dest.*member, src.*member, N); }
-  int compare(const R &a, const R &b) const {
-    // Most are alike, and for that a comparison of fixed size is a few instructions instead of a call.
-    return std::memcmp(a.*member, b.*member, N) == 0 ? 0 : std::memcmp(a.*member, b.*member, N);
-  }
+  int compare(const R &a, const R &b) const { return compare_octets<N>(a.*member, b.*member); }
   template <class Out> void print(Out &out, const R &r) const { out.text(text(r.*member)); }
 };
-
-// Tells whether the octets from `used` on are 0, as in every record that was a copy before. Reading them in words under
-// a mask costs less than writing them: the lengths of SSIDs follow no pattern that a branch or a call could profit
-// from.
-template <std::size_t N> [[gnu::always_inline]] inline bool rest_is_zero(const std::uint8_t *octets, std::size_t used) {
-  static constexpr auto mask = [] {
-    std::array<std::uint8_t, 2 * N> all{};
-    std::fill_n(all.begin() + N, N, std::uint8_t{UINT8_MAX});
-    return all;
-  }();
-  const std::uint8_t *counted = &mask[N - used];
-  const auto rest_of = [&]<class Word>(std::size_t at, Word word) {
-    Word counted_word;
-    std::memcpy(&word, octets + at, sizeof word);
-    std::memcpy(&counted_word, counted + at, sizeof word);
-    return std::uintptr_t{word} & counted_word;
-  };
-  constexpr std::size_t words = N / sizeof(std::uintptr_t);
-  std::uintptr_t found = [&]<std::size_t... i>(std::index_sequence<i...>) {
-    return (rest_of(i * sizeof(std::uintptr_t), std::uintptr_t{}) | ...);
-  }
-  (std::make_index_sequence<words>{});
-  for (std::size_t i = words * sizeof(std::uintptr_t); i < N; ++i) {
-    found |= rest_of(i, std::uint8_t{});
-  }
-  return found == 0;
-}
 
 // A count of octets and the octets, in an array one larger than the most that count.
 template <class R, std::size_t N> struct counted_bytes : plain_kind {
@@ -335,7 +374,7 @@ template <class R, std::size_t N> struct counted_bytes : plain_kind {
     if (a.*length != b.*length) {
       return a.*length < b.*length ? -1 : 1;
     }
-    return std::memcmp(a.*octets, b.*octets, std::min<std::size_t>(a.*length, N));
+    return compare_octets<N>(a.*octets, b.*octets, std::min<std::size_t>(a.*length, N));
   }
 };
 
@@ -382,7 +421,7 @@ template <class R, std::size_t N> struct enum_array : plain_kind {
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const { std::memcpy(dest.*member, src.*member, N); }
   int compare(const R &a, const R &b) const {
-    const int order = std::memcmp(a.*member, b.*member, N);
+    const int order = compare_octets<N>(a.*member, b.*member);
     return (order > 0) - (order < 0);
   }
   template <class Out> void print(Out &out, const R &r) const {
@@ -417,7 +456,7 @@ template <class R, class T> struct nested {
   bool copyable(const R &src) const { return copyable_fields(src.*member); }
   void transfer(const R &src, R &dest) const { transfer_fields(src.*member, dest.*member); }
   void settle(const R &src, R &dest) const { settle_fields(src.*member, dest.*member); }
-  int compare(const R &a, const R &b) const { return record<T>::compare(&(a.*member), &(b.*member)); }
+  int compare(const R &a, const R &b) const { return compare_fields(a.*member, b.*member); }
   template <class Out> void print(Out &out, const R &r) const { out.value(r.*member); }
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool /*newline*/) const {
     out.diff(r.*member, ref != nullptr ? &(ref->*member) : nullptr, name, indent, true);

@@ -1,5 +1,4 @@
 #include "golden.hpp"
-#include "harness.hpp"
 
 #include <gtest/gtest.h>
 
@@ -51,6 +50,14 @@ void expect_golden(const std::string &name, std::string_view text) {
                 << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";
 }
 
+std::string logged(captured_log &log) {
+  std::string all;
+  for (const log_line &line : log.take()) {
+    all += "\n    " + line.name + ' ' + line.file + ' ' + line.function + ": " + line.text;
+  }
+  return all;
+}
+
 void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer) {
   captured_log log;
   std::ifstream file(path_of(name));
@@ -61,10 +68,8 @@ void expect_answers(const std::string &name, const std::function<std::string(con
     }
     const bool is_call = !line.empty() && line[0] != '#';
     const std::string call = is_call ? line.substr(0, line.find(" = ")) : line;
-    answered += is_call ? call + " = " + answer(call) + '\n' : call + '\n';
-    for (const log_line &logged : log.take()) {
-      answered += "    " + logged.name + ' ' + logged.file + ' ' + logged.function + ": " + logged.text + '\n';
-    }
+    answered += is_call ? call + " = " + answer(call) : call;
+    answered += logged(log) + '\n';
   }
   expect_golden(name, answered);
 }

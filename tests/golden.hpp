@@ -1,6 +1,8 @@
 // Expected texts as files, tests/data/<name>.golden: long texts are data, to be read as they are printed.
 #pragma once
 
+#include "harness.hpp"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -10,6 +12,10 @@ namespace harness {
 // Compares a text with the golden file of that name; a difference is shown by its first line. When the environment has
 // RAVIX_UPDATE_GOLDEN=1, the file is rewritten instead: read what git then shows as changed.
 void expect_golden(const std::string &name, std::string_view text);
+
+// What has been logged since the log was last read: below each other, in a line of its own each, indented by four
+// blanks.
+std::string logged(captured_log &log);
 
 // A golden file of calls, each with its answer: "<call> = <answer>", and below it, indented by four blanks, what was
 // logged meanwhile. Lines that begin with '#' are comments. Makes every call that stands in the file, so that a new

@@ -47,6 +47,34 @@ TEST(CommonValues, KeysAndSsidsAreBounded) {
   expect_bounded<ravix_ssid_t>("ravix_types_ssid_copy: src->len is greater than RAVIX_MAX_SSID_LEN!");
 }
 
+template <class R, std::size_t N> void expect_ended(char (R::*text)[N]) {
+  for (const std::size_t length : {std::size_t{0}, N - 2, N - 1, N}) {
+    harness::sample<R> src(1);
+    harness::sample<R> dest(2);
+    std::memset(src.value.*text, 0, N);
+    (src.value.*text)[N - 1] = 'x'; // behind the terminator of shorter ones
+    std::memset(src.value.*text, 'x', length);
+    std::memset(dest.value.*text, '#', N);
+    EXPECT_EQ(record<R>::copy(&src.value, &dest.value), 0);
+    const std::size_t kept = length < N - 1 ? length : N - 1;
+    EXPECT_EQ(std::string(dest.value.*text, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
+    if constexpr (requires { record<R>::compare; }) {
+      EXPECT_EQ(sign(record<R>::compare(&src.value, &dest.value)), length >= N - 1 ? 1 : 0) << "the last one counts";
+    }
+  }
+}
+
+TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
+  expect_ended(&ravix_cfg_radio_static_t::if_name);
+  expect_ended(&ravix_cfg_role_static_t::if_name);
+  expect_ended(&ravix_cfg_radius_server_t::secret);
+  expect_ended(&radiod_hal_event_hw_init_t::error_message);
+  expect_ended(&radiod_hal_event_hw_deinit_t::error_message);
+  expect_ended(&radiod_hal_event_set_config_t::error_message);
+  expect_ended(&radiod_hal_event_check_config_t::error_message);
+  expect_ended(&radiod_hal_event_sanity_t::error_message);
+}
+
 // Values in words.
 template <class T> void read(std::istringstream words, T &value) { // a key or an SSID
   unsigned length = 0;

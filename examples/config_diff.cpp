@@ -244,6 +244,7 @@ configuration make_configuration() {
 
 template <class pointer, class Clone> std::vector<pointer> cloned(const std::vector<pointer> &records, Clone clone) {
   std::vector<pointer> copies;
+  copies.reserve(records.size());
   for (const pointer &record : records) {
     copies.emplace_back(made(clone(record.get())));
   }

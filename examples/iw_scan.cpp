@@ -57,8 +57,8 @@ constexpr feature features[] = {
     {"Unknown Extension ID (107)", "", RAVIX_CAPABILITY_MLO}, // the multi-link element, as above
 };
 
-// Authentication suites: the names by which they are printed, and their numbers (IEEE 802.11, 9.4.2.24.3), which are
-// printed where the name is not known.
+// Authentication suites: the names by which they are printed, and their numbers (IEEE 802.11-2020, 9.4.2.24.3), which
+// are printed where the name is not known.
 struct suite {
   std::string_view name;
   uint32_t capabilities;
@@ -459,7 +459,7 @@ void scan_reader::ssid(std::string_view value) {
 }
 
 void scan_reader::capability(std::string_view value) {
-  // Capability information (IEEE 802.11, 9.4.1.4) as the number in parentheses; the names before it vary.
+  // Capability information (IEEE 802.11-2020, 9.4.1.4) as the number in parentheses; the names before it vary.
   constexpr uint32_t privacy = 0x0010;
   constexpr uint32_t radio_measurement = 0x1000;
   const auto open = value.rfind('(');

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <exception>
 #include <functional>
 #include <iomanip>
 #include <iostream>
@@ -154,12 +155,10 @@ void add_json(nlohmann::ordered_json &all, const name_list &list) {
   all[list.is_flags ? "flags" : "values"][std::string(list.name)] = entries;
 }
 
-} // namespace
-
-int main(int argc, char **argv) {
+int run(const std::vector<std::string_view> &arguments) {
   bool as_json = false;
   std::vector<const name_list *> wanted;
-  for (const std::string_view argument : std::vector<std::string_view>(argv + 1, argv + argc)) {
+  for (const std::string_view argument : arguments) {
     if (argument == "-h" || argument == "--help") {
       std::cout << help;
       return 0;
@@ -197,4 +196,15 @@ int main(int argc, char **argv) {
     std::cout << all.dump(2) << '\n';
   }
   return std::cout.flush() ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  try {
+    return run({argv + 1, argv + argc});
+  } catch (const std::exception &error) {
+    std::cerr << "ravix_names: " << error.what() << '\n';
+    return 1;
+  }
 }

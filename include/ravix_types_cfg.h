@@ -183,8 +183,8 @@ typedef struct ravix_cfg_wlan_security {
   ravix_cfg_radius_server_table_t acct_servers; /**< RADIUS servers for accounting. */
 } ravix_cfg_wlan_security_t;
 
-/** Security as an RSN element (IEEE 802.11-2020, 9.4.2.24) or RSN override element announces it. Slots that are not
- * used hold 0. Owns nothing. */
+/** Security as an RSN element (IEEE 802.11-2020, 9.4.2.24) or an RSN override element (Wi-Fi Alliance) announces it.
+ * Slots that are not used hold 0. Owns nothing. */
 typedef struct ravix_cfg_security_extended {
   uint8_t encryption; /**< Element that is announced, `RAVIX_ENCRYPTION_...` */
   uint8_t pmf_mode;   /**< Protected management frames (9.4.2.24.4), `RAVIX_PMF_MODE_...` */
@@ -271,7 +271,8 @@ typedef struct ravix_cfg_role_static {
   };
 } ravix_cfg_role_static_t;
 
-/** OWE transition (RFC 8110): an open role and the protected one that it points its clients to. Owns nothing. */
+/** OWE transition mode: an open role and the one protected by OWE (RFC 8110) that it points its clients to. Owns
+ * nothing. */
 typedef struct ravix_cfg_owe_transition {
   int32_t owe_master_id; /**< Identifier of the protected role. */
   int32_t owe_slave_id;  /**< Identifier of the open role. */
@@ -280,7 +281,7 @@ typedef struct ravix_cfg_owe_transition {
   ravix_mac_t owe_bssid; /**< BSSID of the partner. */
 } ravix_cfg_owe_transition_t;
 
-/** Multi-link device (IEEE 802.11be, 35.3). */
+/** Multi-link device (multi-link operation: IEEE 802.11be, 35.3). */
 typedef struct ravix_cfg_mld {
   ravix_mac_t mld_mac;           /**< Address of the multi-link device. */
   ravix_id_table_t mld_role_ids; /**< Identifiers of the roles that are its links. */

@@ -68,7 +68,7 @@
 #define RAVIX_UUID_LEN 16
 /** Most octets of a key or passphrase (IEEE 802.11: a 256-bit key written as 64 hex digits). */
 #define RAVIX_MAX_KEY_LEN 64
-/** Most octets of an SSID (IEEE 802.11, 9.4.2.2). */
+/** Most octets of an SSID (IEEE 802.11-2020, 9.4.2.2). */
 #define RAVIX_MAX_SSID_LEN 32
 /** Frequency in kHz that stands for "none". */
 #define RAVIX_FREQUENCY_INVALID 0

@@ -107,8 +107,8 @@ typedef struct ravix_event_client_activity_update {
 typedef struct ravix_event_client_rssi_update {
   int32_t role_id; /**< Role that the client belongs to. */
   ravix_mac_t mac; /**< Address of the client. */
-  uint8_t rsni;    /**< Signal to noise, RSNI code (IEEE 802.11, 9.4.2.40); empty: 255, not available. */
-  uint8_t rcpi;    /**< Received power, RCPI code (IEEE 802.11, 9.4.2.37); empty: 255, not available. */
+  uint8_t rsni;    /**< Signal to noise, RSNI code (IEEE 802.11-2020, 9.4.2.40); empty: 255, not available. */
+  uint8_t rcpi;    /**< Received power, RCPI code (IEEE 802.11-2020, 9.4.2.37); empty: 255, not available. */
   uint8_t anpi;    /**< Noise power, ANPI code; empty: 255, not available. */
 } ravix_event_client_rssi_update_t;
 

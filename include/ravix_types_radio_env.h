@@ -44,7 +44,7 @@ typedef struct ravix_scan_table {
 /** Noise and load of one channel. Owns nothing. */
 typedef struct ravix_noisefloor_entry {
   uint32_t frequency; /**< Centre of the channel in kHz. */
-  uint8_t noisefloor; /**< Noise level, ANPI code (IEEE 802.11, 9.4.2.40); empty: 255, not known. */
+  uint8_t noisefloor; /**< Noise level, ANPI code (IEEE 802.11-2020, 9.4.2.21.6); empty: 255, not known. */
   uint8_t load;       /**< Channel load, in the unit of its producer; empty: 255, not known. */
 } ravix_noisefloor_entry_t;
 

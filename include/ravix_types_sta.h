@@ -120,10 +120,10 @@ typedef struct ravix_station_history_entry {
   int64_t time_disconnect;               /**< Steady-clock time in ms; empty: RAVIX_TIMESTAMP_INVALID, never. */
   uint32_t status_connect;               /**< Status code of the connection. */
   uint8_t initiator_connect;             /**< Who started the connection, as the daemon numbers the parties. */
-  uint16_t ieee802_11_reason_connect;    /**< Reason code (IEEE 802.11, 9.4.1.7) of the connection. */
+  uint16_t ieee802_11_reason_connect;    /**< Reason code (IEEE 802.11-2020, 9.4.1.7) of the connection. */
   uint32_t status_disconnect;            /**< Status code of the disconnection. */
   uint8_t initiator_disconnect;          /**< Who ended the connection, as the daemon numbers the parties. */
-  uint16_t ieee802_11_reason_disconnect; /**< Reason code (IEEE 802.11, 9.4.1.7) of the disconnection. */
+  uint16_t ieee802_11_reason_disconnect; /**< Reason code (IEEE 802.11-2020, 9.4.1.7) of the disconnection. */
 } ravix_station_history_entry_t;
 
 /** Table of past associations. */

@@ -161,7 +161,7 @@ RAVIX_API uint16_t ravix_get_highest_channel_width_from_mode(uint32_t wlan_mode)
  *  @{ */
 
 /**
- * Received channel power indicator (IEEE 802.11, 9.4.2.37) to dBm: value / 2 - 110.
+ * Received channel power indicator (IEEE 802.11-2020, 9.4.2.37) to dBm: value / 2 - 110.
  * @param rcpi code
  * @return the power in dBm
  */
@@ -175,7 +175,7 @@ RAVIX_API float ravix_rcpi_val_to_dBm(uint8_t rcpi);
 RAVIX_API uint8_t dBm_to_ravix_rcpi_val(float dBm);
 
 /**
- * Received signal to noise indicator (IEEE 802.11, 9.4.2.40) to dB: value / 2 - 10.
+ * Received signal to noise indicator (IEEE 802.11-2020, 9.4.2.40) to dB: value / 2 - 10.
  * @param rsni code
  * @return the ratio in dB
  */

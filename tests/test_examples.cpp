@@ -87,7 +87,8 @@ TEST(Programs, HelpThemselvesAndKeepSecretsAndNamesOut) {
     EXPECT_EQ(changes.find(secret), std::string::npos) << secret;
   EXPECT_EQ(run("scan_report --hide-ssid").output.find("harbour"), std::string::npos);
   const std::string watched = run("station_watch").output;
-  EXPECT_TRUE(watched.ends_with(run("test_readme").output)) << "the README's program in C++";
+  EXPECT_TRUE(watched.ends_with(run("test_readme").output))
+      << "what station_watch.c prints by hand and the README's program in C++ as a whole";
 }
 
 // "line: message", with "note: " before a remark.

@@ -12,6 +12,8 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -107,68 +109,58 @@ TEST(Differences, OfTables) {
   golden.expect("diff_tables");
 }
 
+template <class R> using named_values = std::vector<std::pair<std::string, R>>;
+
+// Each value whole, and after each other; alternately with and without a line end.
+template <class R> void add_all(outputs &golden, const named_values<R> &values) {
+  bool newline = false;
+  for (const auto &[name, value] : values) {
+    golden.add(name, diff(value, nothing<R>, "value", 1, newline));
+    for (const auto &[reference_name, reference] : values) {
+      golden.add(name + " after " + reference_name, diff(value, &reference, "value", 1, newline = !newline));
+    }
+  }
+}
+
 TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
   outputs golden;
-  const auto add = [&]<class R>(const std::string &title, const R &value, const R *reference, bool newline = true) {
-    golden.add(title, diff(value, reference, "value", 1, newline));
-  };
-  for (const unsigned length : {0U, 1U, 16U, 17U, 33U}) {
-    std::uint8_t octets[33] = {0x00, 0x7F, 0x80, 0xFF};
-    const ravix_tlv_t tlv{221, static_cast<std::uint8_t>(length), length == 0 ? nullptr : octets};
-    add("TLV of " + std::to_string(length), tlv, nothing<ravix_tlv_t>);
-  }
+  std::uint8_t octets[17] = {0x00, 0x7F, 0x80, 0xFF};
+  add_all<ravix_tlv_t>(golden,
+                       {{"none", {221, 0, nullptr}}, {"a row", {221, 16, octets}}, {"more", {221, 17, octets}}});
+  add_all<ravix_cfg_auto_update_rule_t>(
+      golden, {{"no rule", {}}, {"mode", {false, 1, {}}}, {"feature", {false, 2, {}}}, {"odd rule", {false, 7, {}}}});
 
-  using rule = ravix_cfg_auto_update_rule_t;
-  const rule no_rule{};
-  for (const std::uint32_t type : {1U, 2U, 7U}) {
-    rule typed{};
-    typed.type = type;
-    add("rule of type " + std::to_string(type), typed, nothing<rule>);
-    add("rule of type " + std::to_string(type) + " after none", typed, &no_rule);
-    add("no rule after one of type " + std::to_string(type), no_rule, &typed);
-  }
-
-  using role = ravix_cfg_role_static_t;
   ravix_cfg_role_config_ap_t ap_config{};
   ravix_cfg_role_config_sta_t station_config{};
-  role ap{};
-  ap.op_mode = RAVIX_ROLE_OPMODE_AP_HOME;
-  role bare = ap;
-  role station{};
-  station.op_mode = RAVIX_ROLE_OPMODE_REPEATER;
-  role odd{};
-  odd.op_mode = 4;
-  ap.config_ap = &ap_config;
-  station.config_sta = &station_config;
-  odd.config_ap = reinterpret_cast<ravix_cfg_role_config_ap_t *>(std::uintptr_t{1}); // never looked at
-  add("access point where a station was", ap, &station);
-  add("station where an access point was", station, &ap);
-  add("access point where none was", ap, &bare);
-  add("access point that has lost its configuration", bare, &ap);
-  add("the same without a line end", bare, &ap, false);
-  add("role of no kind", odd, nothing<role>);
-  add("role of no kind where an access point was", odd, &ap);
-  role renamed = bare;
-  renamed.id = 1;
-  add("incomplete before and after", renamed, &bare);
+  const auto role = [](std::uint8_t mode, ravix_cfg_role_config_ap_t *config = nullptr) {
+    ravix_cfg_role_static_t made{};
+    made.op_mode = mode;
+    made.config_ap = config;
+    return made;
+  };
+  auto *odd_config = reinterpret_cast<ravix_cfg_role_config_ap_t *>(std::uintptr_t{1}); // never looked at
+  named_values<ravix_cfg_role_static_t> roles{{"access point", role(RAVIX_ROLE_OPMODE_AP_HOME, &ap_config)},
+                                              {"station", role(RAVIX_ROLE_OPMODE_REPEATER)},
+                                              {"incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME)},
+                                              {"renamed incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME)},
+                                              {"odd role", role(4, odd_config)}};
+  roles[1].second.config_sta = &station_config;
+  roles[3].second.id = 1;
+  add_all(golden, roles);
 
-  using state = ravix_cfg_role_dynamic_t;
   ravix_cfg_owe_transition_t partner{};
-  const state single{};
-  state linked{};
-  linked.owe_transition = &partner;
-  add("role state that has lost its partner", single, &linked);
-  add("role state that has found a partner", linked, &single);
-  add("role state of no multi-link device, without a line end", single, nothing<state>, false);
+  named_values<ravix_cfg_role_dynamic_t> states{{"single", {}}, {"linked", {}}};
+  states[1].second.owe_transition = &partner;
+  add_all(golden, states);
 
+  // A server is the same wherever it stands; one of no address is not even the same as itself.
   const sample<ravix_cfg_radius_server_t> server(1, variety::tame);
-  ravix_cfg_radius_server_t moved = server.value;
-  moved.index = -9;
-  EXPECT_EQ(diff(moved, &server.value), "") << "a server is the same wherever it stands";
-  moved.port = 65535;
-  add("server that has moved and changed", moved, &server.value);
-  moved.addr.version = 0;
-  add("server of no address after itself", moved, &moved);
+  named_values<ravix_cfg_radius_server_t> servers{
+      {"server", server.value}, {"elsewhere", server.value}, {"changed", server.value}, {"no address", server.value}};
+  servers[1].second.index = -9;
+  servers[2].second.port = 65535;
+  servers[3].second.addr.version = 0;
+  add_all(golden, servers);
   golden.expect("diff_special");
 }
 

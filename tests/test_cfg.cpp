@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -20,40 +19,6 @@ int sign(int order) {
   return (order > 0) - (order < 0);
 }
 
-// A result and the lines logged since the last call. `raw`, which is unlike in every line, is shown as "<tag>".
-std::string told(std::string all, harness::captured_log &log, const std::string &raw) {
-  all += harness::logged(log);
-  for (std::size_t at = 0; (at = all.find("'" + raw + "'", at)) != std::string::npos;) {
-    all.replace(at + 1, raw.size(), "<tag>");
-  }
-  return all;
-}
-
-// Collects what is told of each tag, with runs of tags of which the same is told put together.
-struct told_by_tag : harness::golden_sections {
-  std::uint32_t first = 0;
-  std::uint32_t last = 0;
-  std::string text;
-
-  void add(std::uint32_t tag, const std::string &next) {
-    if (next != text) {
-      end_run();
-      first = tag;
-      text = next;
-    }
-    last = tag;
-  }
-  void end_run() {
-    if (!text.empty()) {
-      golden_sections::add(std::to_string(first) + (first == last ? "" : " to " + std::to_string(last)), text);
-    }
-  }
-  void expect(const std::string &name) {
-    end_run();
-    golden_sections::expect(name);
-  }
-};
-
 // Whether a copy's destination is the same, empty, or something else.
 template <class R> std::string outcome(int code, const R &src, const R &dest) {
   return std::to_string(code) + (harness::difference(src, dest).empty()                 ? ", the same"
@@ -63,11 +28,8 @@ template <class R> std::string outcome(int code, const R &src, const R &dest) {
 
 TEST(AutoUpdateRule, EveryOperationGoesByTheType) {
   using rule = ravix_cfg_auto_update_rule_t;
-  harness::captured_log log;
-  told_by_tag by_tag;
-  for (std::uint64_t next = 0; next <= UINT32_MAX; next += next < 0x110 ? 1 : 0x0FFFFFFF) {
-    const auto type = static_cast<std::uint32_t>(next);
-    const std::string tag = std::to_string(type);
+  harness::expect_answers("cfg_rule_types", [](const std::string &call) {
+    const auto type = static_cast<std::uint32_t>(std::stoul(call, nullptr, 0));
     const auto make = [&](bool enabled, std::uint64_t features, std::uint8_t mode) {
       rule made{enabled, type, {}};
       made.auto_update_features.feature = features;
@@ -78,24 +40,22 @@ TEST(AutoUpdateRule, EveryOperationGoesByTheType) {
     };
     const auto orders = [&](const rule &a, const rule &b) {
       EXPECT_EQ(sign(ravix_cfg_auto_update_rule_compare(&a, &b)), -sign(ravix_cfg_auto_update_rule_compare(&b, &a)));
-      return " " + std::to_string(sign(ravix_cfg_auto_update_rule_compare(&a, &b))) + "/" +
-             std::to_string(sign(ravix_cfg_auto_update_rule_map_key_compare(&a, &b)));
+      return std::to_string(sign(ravix_cfg_auto_update_rule_compare(&a, &b))) + "/" +
+             std::to_string(sign(ravix_cfg_auto_update_rule_map_key_compare(&a, &b))) + " ";
     };
     rule src = make(true, 0x8000000000000001, 6);
     rule dest{true, RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE, {}};
     dest.auto_update_features.feature = UINT64_MAX;
-    std::string text =
-        "order by enabled, features, mode, and next type:" + orders(make(false, 9, 9), make(true, 1, 1)) +
-        orders(make(true, 0x200000000, 6), src) + orders(make(true, 9, 1), make(true, 1, 200)) +
-        orders(make(true, 9, 9), rule{true, type ^ 0x80000000U, {}});
-    text += "\ncopy: " + told(outcome(ravix_cfg_auto_update_rule_copy(&src, &dest), src, dest), log, tag);
+    const std::string order = orders(make(false, 9, 9), make(true, 1, 1)) + orders(make(true, 0x200000000, 6), src) +
+                              orders(make(true, 9, 1), make(true, 1, 200)) +
+                              orders(make(true, 9, 9), rule{true, type ^ 0x80000000U, {}});
+    const std::string copied = outcome(ravix_cfg_auto_update_rule_copy(&src, &dest), src, dest);
     EXPECT_TRUE(dest.type != 1 || dest.auto_update_features.feature != src.auto_update_features.feature) << "beside it";
     ravix_cfg_auto_update_rule_clear(&src);
     static const rule nothing{}; // static: all octets of the payload are zero, not those of its first member alone
     EXPECT_EQ(harness::difference(src, nothing), "");
-    by_tag.add(type, told(text + "\nclear:", log, tag));
-  }
-  by_tag.expect("cfg_rule_types");
+    return order + "copy " + copied;
+  });
   const rule r{};
   EXPECT_EQ(ravix_cfg_auto_update_rule_map_key_compare(nullptr, nullptr), 0);
   EXPECT_EQ(ravix_cfg_auto_update_rule_map_key_compare(nullptr, &r), -1);
@@ -105,13 +65,12 @@ TEST(AutoUpdateRule, EveryOperationGoesByTheType) {
 using role = ravix_cfg_role_static_t;
 
 TEST(Role, EveryOperationGoesByTheMode) {
-  harness::captured_log log;
-  told_by_tag by_tag;
-  for (unsigned mode = 0; mode <= UINT8_MAX; ++mode) {
-    const std::string tag(1, static_cast<char>(mode));
+  harness::expect_answers("cfg_role_modes", [](const std::string &call) {
+    const auto mode = static_cast<std::uint8_t>(std::stoul(call));
     harness::heap heap;
-    const auto equip = [](role &r, unsigned op_mode, std::uint8_t octet) {
-      r.op_mode = static_cast<std::uint8_t>(op_mode);
+    harness::captured_log log;
+    const auto equip = [](role &r, std::uint8_t op_mode, std::uint8_t octet) {
+      r.op_mode = op_mode;
       if (op_mode == RAVIX_ROLE_OPMODE_ATACLIENT || op_mode == RAVIX_ROLE_OPMODE_REPEATER) {
         r.config_sta = ravix_cfg_role_config_sta_create();
         r.config_sta->uplink.mac_master[5] = octet;
@@ -128,30 +87,33 @@ TEST(Role, EveryOperationGoesByTheMode) {
     equip(a.value, mode, 1);
     equip(b.value, mode, 2);
     equip(dest.value, RAVIX_ROLE_OPMODE_AP_HOME, 3); // to be released
-    bare.value.op_mode = static_cast<std::uint8_t>(mode);
+    bare.value.op_mode = mode;
     const auto orders = [&] {
       return std::to_string(sign(ravix_cfg_role_compare(&a.value, &b.value))) + " " +
              std::to_string(sign(ravix_cfg_role_compare(&b.value, &a.value))) + " " +
              std::to_string(sign(ravix_cfg_role_compare(&a.value, &bare.value)));
     };
-    std::string text = "order by pointee, and to none: " + orders();
+    std::string told = "by pointee, and to none " + orders();
     a.value.security.pmf_mode = 1;
-    text += "\norder by an earlier field: " + orders();
-    text += "\ncopy: " + told(outcome(ravix_cfg_role_copy(&a.value, &dest.value), a.value, dest.value), log, tag);
-    text += "\ncopy without pointee: " +
-            told(outcome(ravix_cfg_role_copy(&bare.value, &dest.value), bare.value, dest.value), log, tag);
+    told += "; by an earlier field " + orders();
+    told += "; copy " + outcome(ravix_cfg_role_copy(&a.value, &dest.value), a.value, dest.value);
+    told += "; without pointee " + outcome(ravix_cfg_role_copy(&bare.value, &dest.value), bare.value, dest.value);
     const std::size_t blocks = heap.live();
     ravix_cfg_role_config_ap_t *kept = a.value.config_ap;
     ravix_cfg_role_clear(&a.value);
     EXPECT_EQ(harness::difference(a.value, sample<role>().value), "");
-    text = told(text + "\nclear releases: " + std::to_string(blocks - heap.live()), log, tag);
+    told += "; clear releases " + std::to_string(blocks - heap.live());
     if (blocks == heap.live()) {
       ravix_cfg_role_config_ap_free(kept);
       ravix_cfg_role_config_ap_free(b.value.config_ap);
     }
-    by_tag.add(mode, text);
-  }
-  by_tag.expect("cfg_role_modes");
+    std::string lines = harness::logged(log);
+    const std::string raw = {'\'', static_cast<char>(mode), '\''};
+    for (std::size_t at = 0; (at = lines.find(raw, at)) != std::string::npos;) {
+      lines[at + 1] = '?';
+    }
+    return told + lines;
+  });
 }
 
 // The copy of a role, or of the text of debug settings, with one thing wrong after the other.
@@ -165,7 +127,7 @@ TEST(Cfg, CopiesTellWhatHasFailed) {
   src.value.config_ap = ravix_cfg_role_config_ap_create();
   const auto add = [&](const char *title) {
     const int code = ravix_cfg_role_copy(&src.value, &dest.value);
-    golden.add(title, told(outcome(code, src.value, dest.value), log, ""));
+    golden.add(title, outcome(code, src.value, dest.value) + harness::logged(log));
   };
   heap.fail_only(1);
   add("no memory for the access point");
@@ -180,7 +142,7 @@ TEST(Cfg, CopiesTellWhatHasFailed) {
   ravix_cfg_debug_settings_t copied{};
   heap.fail_only(1);
   const int code = ravix_cfg_debug_settings_copy(&settings, &copied);
-  golden.add("no memory for a text", told(outcome(code, settings, copied), log, ""));
+  golden.add("no memory for a text", outcome(code, settings, copied) + harness::logged(log));
   golden.expect("cfg_failures");
 }
 

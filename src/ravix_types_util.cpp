@@ -12,7 +12,6 @@
 #include <iterator>
 #include <numeric>
 #include <span>
-#include <utility>
 
 using zel::ravix::call_site;
 using zel::ravix::log_assertion;
@@ -171,17 +170,17 @@ template <typename Row, std::size_t size> constexpr bool ascends(const Row (&row
 }
 
 // What a function makes of the row of an ascending table whose range holds the frequency; 0 if there is none. Unrolled,
-// so that the rows become constants of the code.
-template <const auto &rows, typename Function> constexpr uint32_t from_row_at(uint32_t frequency, Function function) {
+// so that the rows become constants of the code, and one test follows the other without a jump.
+template <const auto &rows, std::size_t row = 0, typename Function>
+constexpr auto from_row_at(uint32_t frequency, Function function) -> decltype(function(rows[0])) {
   static_assert(ascends(rows));
-  return [&]<std::size_t... row>(std::index_sequence<row...>) {
-    uint32_t result = 0;
-    static_cast<void>(
-        ((frequency - rows[row].first <= rows[row].last - rows[row].first && (result = function(rows[row]), true)) ||
-         ...));
-    return result;
+  if constexpr (row < std::size(rows)) {
+    if (frequency - rows[row].first <= rows[row].last - rows[row].first) [[unlikely]] {
+      return function(rows[row]);
+    }
+    return from_row_at<rows, row + 1>(frequency, function);
   }
-  (std::make_index_sequence<std::size(rows)>{});
+  return 0;
 }
 
 // The row of a width code, null if there is none.
@@ -273,17 +272,18 @@ int invalid_pointer(call_site site, const char *argument) {
 
 } // namespace
 
-uint32_t ravix_frequency_to_channel(uint32_t frequency) {
+// The three that are asked most begin where the processor fetches, which is a tenth of their time.
+[[gnu::aligned(32)]] uint32_t ravix_frequency_to_channel(uint32_t frequency) {
   return from_row_at<numberings>(frequency,
                                  [=](const numbering &row) { return (frequency - row.start) / row.spacing; });
 }
 
-uint8_t ravix_frequency_to_radio_band(uint32_t frequency) {
-  return static_cast<uint8_t>(from_row_at<bands>(frequency, [](const band_range &row) { return row.band; }));
+[[gnu::aligned(32)]] uint8_t ravix_frequency_to_radio_band(uint32_t frequency) {
+  return from_row_at<bands>(frequency, [](const band_range &row) { return row.band; });
 }
 
 uint8_t ravix_frequency_to_radio_sub_band(uint32_t frequency) {
-  return static_cast<uint8_t>(from_row_at<bands>(frequency, [](const band_range &row) { return row.sub_band; }));
+  return from_row_at<bands>(frequency, [](const band_range &row) { return row.sub_band; });
 }
 
 uint8_t ravix_channel_to_radio_band(uint32_t channel) {
@@ -307,10 +307,9 @@ uint32_t ravix_radio_band_and_channel_to_frequency(uint32_t radio_band, uint32_t
   return ravix_frequency_from_channel_and_band(channel, radio_band);
 }
 
-bool ravix_frequency_is_primary(uint32_t frequency) {
-  return from_row_at<primaries>(frequency, [=](const primary_range &row) {
-           return static_cast<uint32_t>((frequency - row.first) % row.spacing == 0);
-         }) != 0;
+[[gnu::aligned(32)]] bool ravix_frequency_is_primary(uint32_t frequency) {
+  return from_row_at<primaries>(frequency,
+                                [=](const primary_range &row) { return (frequency - row.first) % row.spacing == 0; });
 }
 
 uint32_t ravix_channel_width_to_frequency(uint16_t channel_width) {

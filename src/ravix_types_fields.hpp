@@ -148,7 +148,7 @@ template <class R> int copy_or_clear(const R *src, R *dest, call_site site) {
       refusal = field.copyable(*src) ? refusal : field.refusal;
     }
   });
-  if (refusal != nullptr) {
+  if (refusal != nullptr) [[unlikely]] {
     log_error(site, {refusal});
     return invalid_argument;
   }

@@ -413,12 +413,12 @@ bool ravix_create_channel_info(uint32_t primary_freq, uint16_t channel_width, bo
 
 int ravix_create_channel_info_auto(uint32_t primary_freq, uint16_t channel_width, bool ext_high, uint16_t puncture_map,
                                    ravix_channel_info_t *out) {
-  if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) {
+  if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) [[likely]] {
     return 0;
   }
   if (has_pairs(primary_freq, channel_width)) {
     ext_high = !ext_high;
-    if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) {
+    if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) [[likely]] {
       return 1;
     }
   }

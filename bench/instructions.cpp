@@ -20,6 +20,7 @@ int main() {
   const auto listed = scan_results(200, 0);
   const auto channels = channel_list(59);
   const auto role = full_role();
+  const auto twin = full_role();
   const auto other = full_role();
   other->config_ap->access_control.macs_filtered.data[31][5] = 99;
   const std::uint8_t octets[16] = {0x02, 0x00, 0x5E, 0x10, 0x58, 0x08};
@@ -28,12 +29,12 @@ int main() {
 
   const std::pair<const char *, std::function<void()>> operations[] = {
       {"mac_text", [&] { ravix_str_mac(octets); }},
-      {"uuid_text", [&] { ravix_str_uuid(octets); }},
       {"channel_info_text", [&] { ravix_str_channel_info(&listed->scan_table.data[0].channel_info); }},
       {"capabilities_text", [&] { ravix_str_capabilities(UINT32_MAX); }},
       {"mac_parsed", [&] { ravix_mac_from_str("02:00:5E:10:58:08", parsed); }},
       {"clone_scan_results", [&] { ravix_types_scan_results_free(ravix_types_scan_results_clone(results.get())); }},
       {"clone_role", [&] { ravix_cfg_role_free(ravix_cfg_role_clone(role.get())); }},
+      {"compare_role", [&] { ravix_cfg_role_compare(role.get(), twin.get()); }},
       {"print_difference",
        [&] {
          std::ostringstream stream;

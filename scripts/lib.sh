@@ -93,7 +93,7 @@ need_clang_tools() {
 # What the benchmarks need besides.
 need_bench_tools() {
   need_build_tools /usr/include/benchmark/benchmark.h=libbenchmark-dev /usr/include/fmt/compile.h=libfmt-dev \
-    protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev valgrind=valgrind
+    protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev
 }
 
 # Where a preset builds.

@@ -1,7 +1,9 @@
-// Texts of the stream operators, as golden files, and what they do to the stream.
+// Texts of the stream operators and the difference printers, as golden files; what they do to the stream; and that no
+// output tells a secret.
 #include "ravix_types_printers.hpp"
 
 #include "golden.hpp"
+#include "harness.hpp"
 #include "record_tools.hpp"
 
 #include "ravix_types_print.hpp"
@@ -18,6 +20,8 @@
 #include <sstream>
 #include <streambuf>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -27,10 +31,17 @@ using harness::name_of;
 using harness::randomness;
 using harness::sample;
 using harness::variety;
+using zel::ravix::record;
+using zel::ravix::record_table;
+using zel::ravix::table_record;
 
 template <class R>
 concept printable = requires(std::ostream &stream, const R &value) {
   stream << value;
+};
+template <class R>
+concept diffable = requires(std::ostream &stream, const R &value) {
+  print_diff(stream, value, &value, "", 0U, true);
 };
 
 // A time stamp begins with the date that it stands for now.
@@ -86,7 +97,7 @@ TEST(Printers, RecordsEmptyAndFilled) {
 TEST(Printers, TablesOfColumnsAlignTheirEntries) {
   harness::golden_sections sections;
   for_all_records([&]<class T>() {
-    if constexpr (printable<T> && zel::ravix::table_record<T>) {
+    if constexpr (printable<T> && table_record<T>) {
       T without_array{};
       without_array.count = 3;
       EXPECT_EQ(text(without_array), text(T{}));
@@ -94,7 +105,7 @@ TEST(Printers, TablesOfColumnsAlignTheirEntries) {
         sample<T> table;
         randomness random(1, variety::tame);
         fill_table(table.value, count, random);
-        if (!zel::ravix::record_table<T>) { // the others number theirs without padding
+        if (!record_table<T>) { // the others number theirs without padding
           sections.add(name_of<T>() + " of " + std::to_string(count), text(table.value));
         }
       }
@@ -114,6 +125,171 @@ TEST(Printers, KeepNetworkNamesOutOfALog) {
                  }));
   }
   sections.expect("print_scan");
+}
+
+// ---- differences
+
+template <class R>
+std::string diff(const R &value, const R *reference, const char *name = "value", unsigned indent = 1,
+                 bool newline = true) {
+  return printed_by([&](std::ostream &stream) { print_diff(stream, value, reference, name, indent, newline); });
+}
+
+// Outputs by their titles, each with a '|' at its end.
+struct outputs : harness::golden_sections {
+  void add(const std::string &title, const std::string &text) { golden_sections::add(title, text + "|"); }
+};
+
+template <class R> constexpr const R *nothing = nullptr;
+
+// What each output must be in view of the others.
+template <class R> void expect_forms(const R &value) {
+  const std::string whole = diff(value, nothing<R>);
+  const std::string unended = diff(value, nothing<R>, "value", 1, false);
+  EXPECT_EQ(whole, unended.ends_with('\n') ? unended : unended + '\n');
+  const std::string nameless = diff(value, nothing<R>, nullptr, 2);
+  EXPECT_EQ(whole, zel::ravix::value_record<R> ? " value: " + nameless.substr(2) : " value:\n" + nameless);
+  EXPECT_EQ(diff(value, &value), "");
+}
+
+TEST(Differences, OfRecordsEmptyFilledAndOfEachField) {
+  outputs golden;
+  for_all_records([&]<class R>() {
+    if constexpr (diffable<R> && !table_record<R>) {
+      const sample<R> reference(4, variety::tame);
+      expect_forms(reference.value);
+      golden.add(name_of<R>(), diff(reference.value, nothing<R>, "value", 1, false));
+      golden.add(name_of<R>() + ", empty", diff(sample<R>().value, nothing<R>, nullptr));
+      randomness random(1, variety::tame);
+      zel::ravix::for_each_field<R>([&](const auto &field) {
+        sample<R> other(4, variety::tame);
+        const std::string name = field.name;
+        if (name == "op_mode" || name == "type") {
+          return; // would be a record of another kind
+        }
+        while (zel::ravix::field_difference(field, other.value, reference.value) == 0) {
+          field.clear(other.value, "tests");
+          fill(field, other.value, random);
+        }
+        golden.add(name_of<R>() + ", other " + name, diff(other.value, &reference.value));
+      });
+    }
+  });
+  golden.expect("diff_records");
+}
+
+TEST(Differences, OfTables) {
+  outputs golden;
+  for_all_records([&]<class T>() {
+    if constexpr (diffable<T> && table_record<T>) {
+      for (const unsigned count : {0U, 1U, 5U, 6U, 11U, 50U, 51U}) {
+        sample<T> table;
+        const sample<T> none;
+        randomness random(3, variety::tame);
+        fill_table(table.value, count, random);
+        expect_forms(table.value);
+        const std::string whole = diff(table.value, nothing<T>, "value", 1, false);
+        EXPECT_FALSE(whole.ends_with('\n'));
+        EXPECT_EQ(diff(table.value, &none.value, "value", 1, false), count == 0 ? "" : whole);
+        if (!record_table<T> || count < 5) {
+          golden.add(name_of<T>() + " of " + std::to_string(count), whole);
+        } else { // there is no upper limit
+          EXPECT_NE(whole.find(" " + std::to_string(count - 1) + "]:\n"), std::string::npos);
+        }
+      }
+    }
+  });
+  golden.expect("diff_tables");
+}
+
+template <class R> using named_values = std::vector<std::pair<std::string, R>>;
+
+// Each value whole, and after each other; alternately with and without a line end.
+template <class R> void add_all(outputs &golden, const named_values<R> &values) {
+  bool newline = false;
+  for (const auto &[name, value] : values) {
+    golden.add(name, diff(value, nothing<R>, "value", 1, newline));
+    for (const auto &[reference_name, reference] : values) {
+      golden.add(name + " after " + reference_name, diff(value, &reference, "value", 1, newline = !newline));
+    }
+  }
+}
+
+TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
+  outputs golden;
+  std::uint8_t octets[17] = {0x00, 0x7F, 0x80, 0xFF};
+  add_all<ravix_tlv_t>(golden,
+                       {{"none", {221, 0, nullptr}}, {"a row", {221, 16, octets}}, {"more", {221, 17, octets}}});
+  add_all<ravix_cfg_auto_update_rule_t>(
+      golden, {{"no rule", {}}, {"mode", {false, 1, {}}}, {"feature", {false, 2, {}}}, {"odd rule", {false, 7, {}}}});
+
+  ravix_cfg_role_config_ap_t ap_config{};
+  ravix_cfg_role_config_sta_t station_config{};
+  const auto role = [](std::uint8_t mode, ravix_cfg_role_config_ap_t *config = nullptr) {
+    ravix_cfg_role_static_t made{};
+    made.op_mode = mode;
+    made.config_ap = config;
+    return made;
+  };
+  auto *odd_config = reinterpret_cast<ravix_cfg_role_config_ap_t *>(std::uintptr_t{1}); // never looked at
+  named_values<ravix_cfg_role_static_t> roles{{"access point", role(RAVIX_ROLE_OPMODE_AP_HOME, &ap_config)},
+                                              {"station", role(RAVIX_ROLE_OPMODE_REPEATER)},
+                                              {"incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME)},
+                                              {"renamed incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME)},
+                                              {"odd role", role(4, odd_config)}};
+  roles[1].second.config_sta = &station_config;
+  roles[3].second.id = 1;
+  add_all(golden, roles);
+
+  ravix_cfg_owe_transition_t partner{};
+  named_values<ravix_cfg_role_dynamic_t> states{{"single", {}}, {"linked", {}}};
+  states[1].second.owe_transition = &partner;
+  add_all(golden, states);
+
+  // A server is the same wherever it stands; one of no address is not even the same as itself.
+  const sample<ravix_cfg_radius_server_t> server(1, variety::tame);
+  named_values<ravix_cfg_radius_server_t> servers{
+      {"server", server.value}, {"elsewhere", server.value}, {"changed", server.value}, {"no address", server.value}};
+  servers[1].second.index = -9;
+  servers[2].second.port = 65535;
+  servers[3].second.addr.version = 0;
+  add_all(golden, servers);
+  golden.expect("diff_special");
+}
+
+// Tells whether a text has a secret's mark, as it is or as hex digits of whatever layout.
+bool tells_secret(std::string text) {
+  std::erase_if(text, [](char c) { return std::string_view(" :-,\n").find(c) != std::string_view::npos; });
+  return text.find(harness::secret_mark) != std::string::npos || text.find("5a5a5a5a") != std::string::npos ||
+         text.find("5A5A5A5A") != std::string::npos;
+}
+
+TEST(Secrets, ReachNoOutputAndNoLogLine) {
+  harness::captured_log log;
+  harness::heap heap;
+  for_all_records([&]<class R>() {
+    for (unsigned seed = 0; seed < 5; ++seed) {
+      const sample<R> r(seed);
+      sample<R> dest;
+      std::string all;
+      if constexpr (diffable<R>) {
+        all += diff(r.value, nothing<R>) + diff(r.value, const_cast<const R *>(&dest.value));
+        EXPECT_TRUE(!zel::ravix::is_secret<R>() || all.find("[SECRET]") != std::string::npos);
+      }
+      if constexpr (printable<R>) {
+        all += text(r.value);
+      }
+      for (std::size_t k = 0; k < 20; ++k) { // what a copy says when it fails
+        heap.fail_only(k);
+        record<R>::copy(&r.value, &dest.value);
+      }
+      heap.fail_only(0);
+      for (const std::string &text : log.take_texts()) {
+        all += text + "\n";
+      }
+      EXPECT_FALSE(tells_secret(all)) << all;
+    }
+  });
 }
 
 // ---- the stream
@@ -147,9 +323,8 @@ template <class Check> void for_everything_printed(Check check) {
     if constexpr (printable<R>) {
       check([&](std::ostream &stream) { stream << some.value; });
     }
-    if constexpr (requires(std::ostream & stream) { print_diff(stream, some.value, &some.value, "", 0U, true); }) {
-      const R *nothing = nullptr;
-      check([&](std::ostream &stream) { print_diff(stream, some.value, nothing, "value", 1, true); });
+    if constexpr (diffable<R>) {
+      check([&](std::ostream &stream) { print_diff(stream, some.value, nothing<R>, "value", 1, true); });
     }
   });
 }

@@ -70,6 +70,11 @@ std::string words(const ravix_station_history_t &history) {
   return words(history.table) + ", used " + std::to_string(history.used) + ", next " + std::to_string(history.next);
 }
 
+std::string words(const ravix_ap_channel_report_t &report) {
+  return words(report.channels, std::max(report.length, std::uint8_t{1}) - std::size_t{1}) + ", length " +
+         std::to_string(report.length) + ", class " + std::to_string(report.operating_class);
+}
+
 // A list and what is called for it.
 template <class T> struct list_user {
   T *(*create)(unsigned);
@@ -105,6 +110,11 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
                                                  ravix_types_beacon_report_table_free};
   list_user<ravix_station_history_t> history{ravix_types_station_history_create, nullptr, nullptr,
                                              ravix_types_station_history_free};
+  ravix_ap_channel_report_t channel_report{};
+  list_user<ravix_ap_channel_report_t> report{nullptr, ravix_types_ap_channel_report_init,
+                                              ravix_types_ap_channel_report_clear, nullptr, &channel_report};
+  list_user<ravix_ap_channel_report_t> no_report = report;
+  no_report.list = nullptr;
   harness::expect_answers("steering_lists", [&](const std::string &call) {
     std::istringstream in(call);
     std::string list, verb, ignored;
@@ -112,30 +122,14 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
     std::size_t failing = 0;
     in >> list >> verb >> count >> ignored >> failing;
     heap.fail_only(failing);
-    return list == "candidates" ? candidates.use(verb, count)
-           : list == "channels" ? channels.use(verb, count)
-           : list == "beacons"  ? beacons.use(verb, count)
-                                : history.use(verb, count);
+    channel_report.operating_class = 115; // until the report is filled or cleared
+    return list == "candidates"  ? candidates.use(verb, count)
+           : list == "channels"  ? channels.use(verb, count)
+           : list == "beacons"   ? beacons.use(verb, count)
+           : list == "report"    ? report.use(verb, count)
+           : list == "no-report" ? no_report.use(verb, count)
+                                 : history.use(verb, count);
   });
-  EXPECT_EQ(heap.live(), 0U);
-}
-
-TEST(Steering, AChannelReportCountsItsOperatingClassToo) {
-  harness::heap heap;
-  ravix_ap_channel_report_t report{};
-  harness::expect_answers("steering_channel_report", [&](const std::string &call) {
-    report.operating_class = 115;
-    heap.fail_only(call.ends_with("without memory") ? 1 : 0);
-    const bool none = call.starts_with("none");
-    const int code = ravix_types_ap_channel_report_init(none ? nullptr : &report,
-                                                        none ? 5 : static_cast<unsigned>(std::stoul(call)));
-    return std::to_string(code) + ", length " + std::to_string(report.length) + ", class " +
-           std::to_string(report.operating_class) + ", channels " +
-           words(report.channels, std::max(std::size_t{report.length}, std::size_t{1}) - 1) + ", blocks " +
-           std::to_string(heap.live());
-  });
-  ravix_types_ap_channel_report_clear(&report);
-  ravix_types_ap_channel_report_clear(nullptr);
   EXPECT_EQ(heap.live(), 0U);
 }
 

@@ -82,6 +82,8 @@ END {
       comment = ""
       continue
     }
+    # A constant becomes a link.
+    gsub(/empty: RAVIX_/, "empty: #RAVIX_", lines[i])
     # Names of parameters say all that is known of them here.
     sub(/^ +RAVIX_PARAM_ID_[A-Z0-9_]+ = [0-9]+,?$/, "& /**< The parameter of this name. */", lines[i])
     print lines[i]

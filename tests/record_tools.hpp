@@ -1,24 +1,24 @@
-// Records at random, and what it means that two are alike, by way of their field lists.
+// Records of any type at run time: their operations and fields in tables, records at random, what it means that two are
+// alike, and what must hold of every operation.
 #pragma once
 
-#include "all_records.hpp"
+#include "harness.hpp"
+#include "ravix_types_all_fields.hpp"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <functional>
+#include <iosfwd>
+#include <memory>
 #include <random>
 #include <span>
 #include <string>
-#include <string_view>
-#include <type_traits>
 #include <typeinfo>
+#include <vector>
 
 namespace harness {
-
-using zel::ravix::has_record;
-using zel::ravix::record;
 
 // What random records are like: some of what may be absent is; nothing is; they break every rule that a caller can
 // break without a bad pointer (lengths beyond the capacity, texts without end, counts without an array); or their
@@ -27,250 +27,183 @@ enum class variety { usual, full, hostile, tame };
 
 class randomness {
 public:
-  explicit randomness(unsigned seed, variety kind = variety::usual)
-      : hostile(kind == variety::hostile), tame_(kind == variety::tame), full_(kind == variety::full), engine_(seed) {}
+  explicit randomness(unsigned seed, variety of = variety::usual) : kind(of), engine_(seed) {}
   // Chosen by the octets, as far as they go.
-  explicit randomness(std::span<const std::uint8_t> chosen, variety kind = variety::usual) : randomness(0, kind) {
+  explicit randomness(std::span<const std::uint8_t> chosen, variety of = variety::usual) : randomness(0, of) {
     chosen_ = chosen;
   }
+  // The same as of the seed for that many choices, and different from there on.
+  randomness(unsigned seed, std::size_t same) : randomness(seed) { same_ = same; }
 
-  // From 0 to `most`, the same on every platform.
-  [[gnu::noinline]] std::uint32_t up_to(std::uint32_t most) { // inlined, it leads g++ 12 to a warning without reason
-    std::uint64_t next = 0;
-    if (chosen_.empty()) {
-      next = engine_();
-    } else {
-      next = chosen_.front();
-      chosen_ = chosen_.subspan(1);
-    }
-    return static_cast<std::uint32_t>(next % (most + std::uint64_t{1}));
-  }
+  std::uint32_t up_to(std::uint32_t most); // from 0 to `most`, the same on every platform
   // Whether an optional thing is left out, and how many there are of something.
-  bool absent() { return up_to(3) == 0 && !full_; }
-  std::uint32_t some(std::uint32_t most) { return full_ ? 1 + up_to(most - 1) : up_to(most); }
+  bool absent() { return up_to(3) == 0 && kind != variety::full; }
+  std::uint32_t some(std::uint32_t most) { return kind == variety::full ? 1 + up_to(most - 1) : up_to(most); }
+  void bytes(void *memory, std::size_t size);
+  void word(char *to, std::size_t longest);
+  std::size_t choices() const { return choices_; } // made so far
 
-  void bytes(void *memory, std::size_t size) {
-    for (std::size_t i = 0; i < size; ++i) {
-      static_cast<unsigned char *>(memory)[i] = static_cast<unsigned char>(tame_ ? 1 + up_to(9) : up_to(255));
-    }
-  }
-  template <class T> T number() {
-    T value = 0;
-    if (tame_) {
-      value = static_cast<T>(1 + up_to(9));
-    } else {
-      bytes(&value, sizeof value);
-    }
-    return value;
-  }
-  void word(char *to, std::size_t longest) {
-    for (std::size_t i = some(static_cast<std::uint32_t>(longest)); i > 0; --i) {
-      *to++ = static_cast<char>('a' + up_to(25));
-    }
-  }
-
-  const bool hostile;
+  const variety kind;
 
 private:
-  bool tame_;
-  bool full_;
   std::mt19937 engine_;
   std::span<const std::uint8_t> chosen_;
+  std::size_t choices_ = 0, same_ = SIZE_MAX;
 };
 
-template <has_record R> void fill(R &r, randomness &random);
-
-inline char *random_text(randomness &random) {
-  char text[41] = "";
-  random.word(text, 40);
-  return random.absent() ? nullptr : slab_dstrdup(text, "tests", __LINE__);
-}
-
-// A random value: of a record, of what it consists of, or of a table's element. It is empty or owns nothing.
-template <class T> void fill_value(T &value, randomness &random) {
-  if constexpr (has_record<T>) {
-    fill(value, random);
-  } else if constexpr (std::is_same_v<T, char *>) {
-    value = random_text(random);
-  } else if constexpr (std::is_same_v<T, bool>) {
-    value = random.up_to(1) == 1;
-  } else if constexpr (std::is_same_v<T, float>) {
-    value = static_cast<float>(random.up_to(10000)) / 8;
-  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
-    if (!random.absent()) {
-      value = record<std::remove_pointer_t<T>>::create();
-      fill(*value, random);
-    }
-  } else if constexpr (std::is_integral_v<T>) {
-    value = random.template number<T>();
-  } else {
-    random.bytes(&value, sizeof value);
-  }
-}
-
-// A random value of a field, by default of each of its members.
-template <class Kind, class R> void fill(const Kind &field, R &r, randomness &random) {
-  field.members(
-      r, [&](const auto &member) { fill_value(const_cast<std::remove_cvref_t<decltype(member)> &>(member), random); });
-}
-template <class R, std::size_t N> void fill(const zel::ravix::bounded_text<R, N> &field, R &r, randomness &random) {
-  std::memset(r.*field.member, random.hostile ? 'x' : 0, N);
-  random.word(r.*field.member, N - 1);
-}
-template <class R, std::size_t N> void fill(const zel::ravix::counted_bytes<R, N> &field, R &r, randomness &random) {
-  const std::uint32_t length = random.up_to(N - 1);
-  std::memset(r.*field.octets, 0, N);
-  random.bytes(r.*field.octets, length);
-  r.*field.length = static_cast<std::uint8_t>(length + (random.hostile ? N : 0));
-}
 // Secrets begin with a mark that nothing else has, so that it can be looked for in outputs.
 inline constexpr char secret_mark[] = "ZZZZ";
-inline constexpr std::size_t secret_mark_length = sizeof secret_mark - 1;
-template <class R, std::size_t N>
-void fill(const zel::ravix::secret<zel::ravix::bounded_text<R, N>> &field, R &r, randomness &random) {
-  std::memset(r.*field.member, random.hostile ? 'x' : 0, N);
-  std::memcpy(r.*field.member, secret_mark, secret_mark_length);
-  random.word(&(r.*field.member)[secret_mark_length], N - 1 - secret_mark_length);
-}
-template <class R, std::size_t N>
-void fill(const zel::ravix::secret<zel::ravix::counted_bytes<R, N>> &field, R &r, randomness &random) {
-  fill(static_cast<const zel::ravix::counted_bytes<R, N> &>(field), r, random);
-  r.*field.length = std::max(r.*field.length, static_cast<std::uint8_t>(secret_mark_length));
-  std::memcpy(r.*field.octets, secret_mark, secret_mark_length);
-}
-template <class R> void fill(const zel::ravix::owned_bytes<R> &field, R &r, randomness &random) {
-  r.*field.length = static_cast<std::uint8_t>(random.some(255));
-  if (r.*field.length != 0 && !random.hostile) {
-    r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
-    random.bytes(r.*field.octets, r.*field.length);
-  }
-}
-template <class T> void fill_table(T &table, std::uint32_t count, randomness &random) {
-  record<T>::init(&table, count);
-  for (std::uint32_t i = 0; i < table.count; ++i) {
-    fill_value(table.data[i], random);
-  }
-}
-template <class T, class E, class Text>
-void fill(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
-  if (random.hostile && random.absent()) {
-    table.count = random.up_to(UINT32_MAX);
-    return;
-  }
-  fill_table(table, random.some(3), random);
-}
-template <class R, class T> void fill(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
-  do {
-    fill_value(r.*field.member, random);
-  } while (r.*field.member == nullptr && !random.hostile); // a role without it is refused
-}
-inline void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
-  rule.type = 1 + random.up_to(1);
-}
-inline void choose(ravix_cfg_role_static_t &role, randomness &random) {
-  role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
-}
-template <class Tag, class Wide, class Other>
-void fill(const zel::ravix::tagged<Tag, Wide, Other> &field, typename Tag::record_type &r, randomness &random) {
-  using zel::ravix::alternative;
-  while (Tag::of(r) == alternative::none && !random.hostile) {
-    choose(r, random);
-  }
-  if (Tag::of(r) != alternative::none) {
-    Tag::of(r) == alternative::wide ? fill(field.wide, r, random) : fill(field.other, r, random);
-  }
-}
 
-// An attribute of a kind is filled as the kind.
-template <template <class> class Attribute, class Kind, class R>
-requires(std::is_base_of_v<Kind, Attribute<Kind>>) void fill(const Attribute<Kind> &field, R &r, randomness &random) {
-  fill(static_cast<const Kind &>(field), r, random);
-}
+struct record_type;
 
-// Fills an empty record with what its own rules accept.
-template <has_record R> void fill(R &r, randomness &random) {
-  zel::ravix::for_each_field<R>([&](const auto &field) { fill(field, r, random); });
-  if constexpr (std::is_same_v<R, ravix_ip_addr_t>) {
-    r.version = static_cast<std::uint8_t>(random.hostile ? 77 : 1 + random.up_to(1));
-  }
-}
+// A type of values, in members of records and elements of tables.
+struct value_type {
+  std::size_t size, alignment;
+  bool is_pointer;
+  const record_type *record; // of a record, else null
+  // Makes a random value of one that is empty or owns nothing.
+  void (*fill)(void *value, randomness &random);
+  // Negative, 0 or positive. Strictly, values differ too if they share memory, or in what no comparison heeds.
+  int (*compare)(const void *a, const void *b, bool strictly);
+  std::string (*number)(const void *value); // a number's text, "" for 0 and other values
+};
 
-template <has_record R> std::string difference(const R &a, const R &b);
-
-// Tells whether two values are the same without any memory in common.
-template <class T> bool alike_values(const T &a, const T &b) {
-  if constexpr (has_record<T>) {
-    return difference(a, b).empty();
-  } else if constexpr (std::is_same_v<T, char *>) {
-    return a == nullptr || b == nullptr ? a == b : a != b && std::strcmp(a, b) == 0;
-  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
-    return a == nullptr || b == nullptr ? a == b : a != b && alike_values(*a, *b);
-  } else {
-    return std::memcmp(&a, &b, sizeof a) == 0;
-  }
-}
-
-// Tells the same of a field, by default member by member.
-template <class Kind, class R> bool alike(const Kind &field, const R &a, const R &b) {
-  bool same = true;
-  field.members(a, [&](const auto &member) {
-    const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&a);
-    const auto *other = reinterpret_cast<const char *>(&b) + offset;
-    same = same && alike_values(member, *reinterpret_cast<decltype(&member)>(other));
-  });
-  return same;
-}
-// Two arrays of that many elements each.
-template <class E> bool alike_arrays(const E *a, std::size_t count_a, const E *b, std::size_t count_b) {
-  bool same = count_a == count_b && (a == nullptr) == (b == nullptr) && (a == nullptr || a != b);
-  for (std::size_t i = 0; same && a != nullptr && i < count_a; ++i) {
-    same = alike_values(a[i], b[i]);
-  }
-  return same;
-}
-template <class R> bool alike(const zel::ravix::owned_bytes<R> &field, const R &a, const R &b) {
-  return alike_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length);
-}
-template <class T, class E, class Text>
-bool alike(const zel::ravix::entries<T, E, Text> & /*field*/, const T &a, const T &b) {
-  return alike_arrays(a.data, a.count, b.data, b.count);
-}
-template <class Tag, class Wide, class Other>
-bool alike(const zel::ravix::tagged<Tag, Wide, Other> &field, const typename Tag::record_type &a,
-           const typename Tag::record_type &b) {
-  return Tag::of(a) == zel::ravix::alternative::other ? alike(field.other, a, b) : alike(field.wide, a, b);
-}
-
-// Name of the first field that is not alike; empty for records that are the same and share nothing.
-template <has_record R> std::string difference(const R &a, const R &b) {
+// A field of records, at whose address the functions get them; as those of a value.
+struct field_type {
+  struct member {
+    std::size_t offset;
+    const value_type *type;
+  };
+  const void *kind; // its object in the field list
   std::string name;
-  zel::ravix::all_fields<R>([&](const auto &field) {
-    name = alike(field, a, b) ? "" : field.name;
-    return name.empty();
-  });
-  return name;
+  bool is_compared;
+  std::vector<member> members;
+  std::function<void(void *r, randomness &random)> fill;
+  std::function<int(const void *a, const void *b, bool strictly)> compare;
+};
+
+struct record_type {
+  std::string name;
+  const std::type_info *info;
+  std::size_t size;
+  std::vector<field_type> fields;
+  std::vector<const void *> allocating; // exported operations that make blocks
+  bool compares_references;             // a copy is never equal to its source: references to memory are compared
+  bool copies_leniently;                // a copy succeeds when no memory is left for a text
+
+  void *(*create)(unsigned count); // which a table starts with
+  void *(*clone)(const void *old_obj);
+  int (*copy)(const void *src, void *dest);
+  void (*clear)(void *obj);
+  void (*free)(void *obj);
+  int (*compare)(const void *a, const void *b); // null for what is not compared
+  // Null for what is not printed.
+  void (*print)(std::ostream &os, const void *value);
+  void (*print_diff)(std::ostream &os, const void *value, const void *ref, const char *name);
+
+  // Of tables; else null.
+  const value_type *element;
+  std::uint32_t *(*count)(void *table);
+  void *(*data)(const void *table);
+  int (*init)(void *table, unsigned count);
+  int (*add_entry)(void *table, const void *entry);
+  bool (*contains_entry)(const void *table, const void *entry); // null unless compared
+
+  // Fills an empty record with what its own rules accept, and a table with so many elements.
+  void fill(void *r, randomness &random) const;
+  void fill_table(void *table, std::uint32_t count, randomness &random) const;
+  // Name of the first field that differs strictly; "" for records that are the same and share nothing.
+  std::string difference(const void *a, const void *b) const;
+  // What a comparison should give.
+  int order(const void *a, const void *b) const;
+  void *at(const void *table, std::size_t i) const { return static_cast<char *>(data(table)) + i * element->size; }
+};
+
+const std::vector<const record_type *> &record_types();
+const record_type &type_of(const std::type_info &info);
+
+// A record in memory of its own, empty or filled at random, and cleared at the end.
+class any_sample {
+public:
+  explicit any_sample(const record_type &type) : type_(type), memory_(new std::byte[type.size]{}) { type.clear(*this); }
+  any_sample(const record_type &type, randomness random) : any_sample(type) { type.fill(*this, random); }
+  any_sample(const record_type &type, unsigned seed) : any_sample(type, randomness(seed)) {}
+  ~any_sample() { type_.clear(*this); }
+  any_sample(const any_sample &) = delete;
+  any_sample &operator=(const any_sample &) = delete;
+  operator void *() const { return memory_.get(); } // NOLINT(google-explicit-constructor): stands for the record
+  const void *at(std::size_t offset) const { return &memory_[offset]; }
+
+private:
+  const record_type &type_;
+  std::unique_ptr<std::byte[]> memory_;
+};
+
+// Puts records through every operation, each with its k-th request for memory failed, alone or with all that follow:
+//
+// - A clone and a copy are the same as their source, share nothing with it and outlive it. An operation that fails says
+//   so in its result and in the log, and leaves its destination empty or as it was; nothing else is logged.
+// - Comparisons are turned round by turning round their arguments, and a clone is equal to its source.
+// - Printing logs nothing, writes text alone, and a difference print is empty if and only if the records are equal.
+// - New elements and cleared records are empty. The source is never changed, and no block is left in the end.
+// - All of it holds for hostile records too; only that they may be refused, and lose what counts for nothing.
+class trial {
+public:
+  std::string broken; // the first of it that does not hold
+  harness::heap heap;
+  harness::captured_log log;
+
+  // Tells whether the k-th request was reached by any operation; k = 0 fails none.
+  bool run(const record_type &type, const randomness &first, const randomness &second, std::size_t k, bool onward);
+  // One operation, which tells whether it succeeded, with its k-th request failed. Tells whether it was reached.
+  bool run(const std::function<bool()> &operation, std::size_t k, bool onward);
+
+private:
+  struct records;
+  void copy(const records &all);
+  void grow(const records &all);
+  void print(const records &all);
+  void require(bool holds, const char *invariant);
+  bool succeeds(const std::function<bool()> &operation);
+
+  const record_type *type_ = nullptr;
+  bool is_hostile_ = false, onward_ = false, reached_ = false;
+  std::size_t k_ = 0;
+};
+
+// ---- the same for types that are known
+
+template <class R> std::string difference(const R &a, const R &b) {
+  return type_of(typeid(R)).difference(&a, &b);
+}
+template <class R> std::string name_of() {
+  return type_of(typeid(R)).name;
 }
 
-// A record of its own on the stack, empty or filled at random, and cleared at the end.
-template <has_record R> struct sample {
+// A random value of a field that is empty.
+template <class Kind, class R> void fill(const Kind &field, R &r, randomness &random) {
+  for (const field_type &row : type_of(typeid(R)).fields) {
+    row.kind == &field ? row.fill(&r, random) : void();
+  }
+}
+
+template <class T> void fill_table(T &table, std::uint32_t count, randomness &random) {
+  type_of(typeid(T)).fill_table(&table, count, random);
+}
+
+template <class R> struct sample {
   R value{};
 
-  sample() { record<R>::clear(&value); }
-  explicit sample(randomness random) : sample() { fill(value, random); }
+  sample() { zel::ravix::record<R>::clear(&value); }
+  explicit sample(randomness random) : sample() { type_of(typeid(R)).fill(&value, random); }
   explicit sample(unsigned seed, variety kind = variety::usual) : sample(randomness(seed, kind)) {}
-  explicit sample(std::span<const std::uint8_t> chosen) : sample(randomness(chosen)) {}
-  ~sample() { record<R>::clear(&value); }
+  ~sample() { zel::ravix::record<R>::clear(&value); }
   sample(const sample &) = delete;
   sample &operator=(const sample &) = delete;
 };
 
-template <class R> std::string name_of() {
-  const std::string_view mangled = typeid(R).name(); // the length of the name, and the name
-  return std::string(mangled.substr(mangled.find_first_not_of("0123456789")));
-}
-
 // Runs a check for every record type.
-template <class... R, class Check> void for_all(type_list<R...> /*records*/, Check check) {
+template <class... R, class Check> void for_all(zel::ravix::type_list<R...> /*records*/, Check check) {
   const auto run = [&]<class T>(T * /*type*/) {
     SCOPED_TRACE(typeid(T).name());
     check.template operator()<T>();
@@ -278,7 +211,7 @@ template <class... R, class Check> void for_all(type_list<R...> /*records*/, Che
   (run(static_cast<R *>(nullptr)), ...);
 }
 template <class Check> void for_all_records(Check check) {
-  for_all(all_records{}, check);
+  for_all(zel::ravix::all_records{}, check);
 }
 
 } // namespace harness

@@ -14,10 +14,6 @@
 
 namespace {
 
-using harness::difference;
-using harness::sample;
-using zel::ravix::record;
-
 // Fails every n-th request of a thread that asks for it; counts blocks.
 thread_local unsigned fail_every = 0;
 thread_local unsigned requests = 0;
@@ -62,19 +58,18 @@ TEST(Threads, WorkOnRecordsOfTheirOwnWhileAllocationsFailAndLinesAreLogged) {
   for (unsigned id = 0; id < 8; ++id) {
     workers.emplace_back([&, id] {
       for (unsigned round = 0; round < rounds; ++round) {
-        harness::for_all_records([&]<class R>() {
-          const sample<R> source(id + round * 8);
-          sample<R> dest(id);
+        for (const harness::record_type *type : harness::record_types()) {
+          const harness::any_sample source(*type, id + round * 8), dest(*type, id), empty(*type);
           fail_every = 3 + round % 5;
-          R *clone = record<R>::clone(&source.value);
-          const bool is_copied = record<R>::copy(&source.value, &dest.value) == 0;
+          void *clone = type->clone(source);
+          const bool is_copied = type->copy(source, dest) == 0;
           fail_every = 0;
-          const R &expected = is_copied ? source.value : sample<R>().value;
-          torn += harness::copies_leniently<R> || difference(dest.value, expected).empty() ? 0 : 1;
-          torn += harness::copies_leniently<R> || clone == nullptr || difference(*clone, source.value).empty() ? 0 : 1;
-          record<R>::free(clone);
+          const bool is_torn = !type->difference(dest, is_copied ? source : empty).empty() ||
+                               (clone != nullptr && !type->difference(clone, source).empty());
+          torn += is_torn && !type->copies_leniently ? 1 : 0;
+          type->free(clone);
           (is_copied ? copied : refused)++;
-        });
+        }
       }
     });
   }

@@ -1,0 +1,566 @@
+#include "record_tools.hpp"
+
+#include "ravix_types_printers.hpp"
+
+#include <algorithm>
+#include <cstring>
+#include <sstream>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+
+namespace harness {
+
+using zel::ravix::has_record;
+using zel::ravix::record;
+
+// ---- records at random
+
+std::uint32_t randomness::up_to(std::uint32_t most) {
+  std::uint64_t next = 0;
+  if (choices_++ == same_) {
+    engine_.seed(static_cast<std::uint32_t>(same_) + 1000003);
+  }
+  if (chosen_.empty()) {
+    next = engine_();
+  } else {
+    next = chosen_.front();
+    chosen_ = chosen_.subspan(1);
+  }
+  return static_cast<std::uint32_t>(next % (most + std::uint64_t{1}));
+}
+
+void randomness::bytes(void *memory, std::size_t size) {
+  std::generate_n(static_cast<unsigned char *>(memory), size,
+                  [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
+}
+
+void randomness::word(char *to, std::size_t longest) {
+  std::generate_n(to, some(static_cast<std::uint32_t>(longest)), [&] { return static_cast<char>('a' + up_to(25)); });
+}
+
+namespace {
+
+template <class R> const record_type &row_of();
+
+// ---- values
+
+template <class T> void fill_value(T &value, randomness &random) {
+  if constexpr (has_record<T>) {
+    row_of<T>().fill(&value, random);
+  } else if constexpr (std::is_same_v<T, char *>) {
+    char text[41] = "";
+    random.word(text, 40);
+    value = random.absent() ? nullptr : slab_dstrdup(text, "tests", __LINE__);
+  } else if constexpr (std::is_same_v<T, bool>) {
+    value = random.up_to(1) == 1;
+  } else if constexpr (std::is_same_v<T, float>) {
+    value = static_cast<float>(random.up_to(10000)) / 8;
+  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+    if (!random.absent()) {
+      value = record<std::remove_pointer_t<T>>::create();
+      fill_value(*value, random);
+    }
+  } else if constexpr (std::is_integral_v<T>) {
+    if (random.kind == variety::tame) {
+      value = static_cast<T>(1 + random.up_to(9));
+    } else {
+      random.bytes(&value, sizeof value);
+    }
+  } else {
+    random.bytes(&value, sizeof value);
+  }
+}
+
+// The first field that differs, or null; and its order.
+const field_type *first_difference(const record_type &type, const void *a, const void *b, bool strictly, int &order) {
+  for (const field_type &field : type.fields) {
+    order = strictly || field.is_compared ? field.compare(a, b, strictly) : 0;
+    if (order != 0) {
+      return &field;
+    }
+  }
+  return nullptr;
+}
+
+template <class T> int compare_values(const T &a, const T &b, bool strictly) {
+  if constexpr (has_record<T>) {
+    int order = 0;
+    first_difference(row_of<T>(), &a, &b, strictly, order);
+    return order;
+  } else if constexpr (std::is_same_v<T, char *> || (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>)) {
+    if (a == nullptr || b == nullptr) {
+      return (a != nullptr) - (b != nullptr);
+    }
+    if constexpr (std::is_same_v<T, char *>) {
+      return a == b && strictly ? 1 : std::strcmp(a, b);
+    } else {
+      return a == b && strictly ? 1 : compare_values(*a, *b, strictly);
+    }
+  } else if constexpr (std::is_scalar_v<T>) {
+    return (a > b) - (a < b);
+  } else {
+    return std::memcmp(&a, &b, sizeof a);
+  }
+}
+
+// Two arrays of that many elements each.
+template <class E> int compare_arrays(const E *a, std::size_t count_a, const E *b, std::size_t count_b, bool strictly) {
+  if (count_a != count_b) {
+    return count_a < count_b ? -1 : 1;
+  }
+  if (a == nullptr || b == nullptr) {
+    return (a != nullptr) - (b != nullptr);
+  }
+  int order = a == b && strictly ? 1 : 0;
+  if (zel::ravix::element<E>::is_plain && order == 0) {
+    return std::memcmp(a, b, count_a * sizeof(E));
+  }
+  for (std::size_t i = 0; i < count_a && order == 0; ++i) {
+    order = compare_values(a[i], b[i], strictly);
+  }
+  return order;
+}
+
+template <class T> const value_type &value_of() {
+  static const value_type value = [] {
+    value_type made{};
+    made.size = sizeof(T);
+    made.alignment = alignof(T);
+    made.is_pointer = std::is_pointer_v<T>;
+    if constexpr (has_record<T>) {
+      made.record = &row_of<T>();
+    }
+    made.fill = [](void *v, randomness &random) { fill_value(*static_cast<T *>(v), random); };
+    made.compare = [](const void *a, const void *b, bool strictly) {
+      return compare_values(*static_cast<const T *>(a), *static_cast<const T *>(b), strictly);
+    };
+    made.number = [](const void *v) {
+      std::ostringstream text;
+      if constexpr (std::is_arithmetic_v<T>) {
+        const T number = *static_cast<const T *>(v);
+        number != 0 ? text << +number : text;
+      }
+      return text.str();
+    };
+    return made;
+  }();
+  return value;
+}
+
+// ---- kinds of field that are filled or compared otherwise than member by member
+
+template <class R, class Kind, class Fill> void fill_by(field_type &row, const Kind &field, Fill fill) {
+  row.fill = [&field, fill](void *r, randomness &random) { fill(field, *static_cast<R *>(r), random); };
+}
+template <class R, class Kind, class Compare> void compare_by(field_type &row, const Kind &field, Compare compare) {
+  row.compare = [&field, compare](const void *a, const void *b, bool strictly) {
+    return compare(field, *static_cast<const R *>(a), *static_cast<const R *>(b), strictly);
+  };
+}
+
+constexpr std::size_t mark_length = sizeof secret_mark - 1;
+
+// The first `begin` characters are the mark of a secret.
+template <class R, std::size_t N>
+void specialize(field_type &row, const zel::ravix::bounded_text<R, N> &kind, std::size_t begin = 0) {
+  fill_by<R>(row, kind, [begin](const auto &field, R &r, randomness &random) {
+    std::memset(r.*field.member, random.kind == variety::hostile ? 'x' : 0, N);
+    std::memcpy(r.*field.member, secret_mark, begin);
+    random.word(&(r.*field.member)[begin], N - 1 - begin);
+  });
+}
+template <class R, std::size_t N>
+void specialize(field_type &row, const zel::ravix::counted_bytes<R, N> &kind, std::size_t begin = 0) {
+  fill_by<R>(row, kind, [begin](const auto &field, R &r, randomness &random) {
+    const std::uint32_t length = random.up_to(N - 1);
+    std::memset(r.*field.octets, 0, N);
+    random.bytes(r.*field.octets, length);
+    std::memcpy(r.*field.octets, secret_mark, begin);
+    r.*field.length =
+        static_cast<std::uint8_t>(std::max<std::size_t>(length, begin) + (random.kind == variety::hostile ? N : 0));
+  });
+}
+template <class Kind> void specialize(field_type &row, const zel::ravix::secret<Kind> &kind) {
+  specialize(row, static_cast<const Kind &>(kind), mark_length);
+}
+template <class R> void specialize(field_type &row, const zel::ravix::owned_bytes<R> &kind) {
+  fill_by<R>(row, kind, [](const auto &field, R &r, randomness &random) {
+    r.*field.length = static_cast<std::uint8_t>(random.some(255));
+    if (r.*field.length != 0 && random.kind != variety::hostile) {
+      r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
+      random.bytes(r.*field.octets, r.*field.length);
+    }
+  });
+  compare_by<R>(row, kind, [](const auto &field, const R &a, const R &b, bool strictly) {
+    return compare_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length, strictly);
+  });
+}
+template <class T, class E, class Text> void specialize(field_type &row, const zel::ravix::entries<T, E, Text> &kind) {
+  fill_by<T>(row, kind, [](const auto & /*field*/, T &table, randomness &random) {
+    if (random.kind == variety::hostile && random.absent()) {
+      table.count = random.up_to(UINT32_MAX);
+    } else {
+      row_of<T>().fill_table(&table, random.some(3), random);
+    }
+  });
+  compare_by<T>(row, kind, [](const auto & /*field*/, const T &a, const T &b, bool strictly) {
+    return compare_arrays(a.data, a.count, b.data, b.count, strictly);
+  });
+}
+template <class R, class T> void specialize(field_type &row, const zel::ravix::role_config<R, T> &kind) {
+  fill_by<R>(row, kind, [](const auto &field, R &r, randomness &random) {
+    do {
+      fill_value(r.*field.member, random);
+    } while (r.*field.member == nullptr && random.kind != variety::hostile); // a role without it is refused
+  });
+}
+
+template <class Kind, class R> field_type field_of(const Kind &field, const R &empty);
+
+void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
+  rule.type = 1 + random.up_to(1);
+}
+void choose(ravix_cfg_role_static_t &role, randomness &random) {
+  role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
+}
+template <class Tag, class Wide, class Other>
+void specialize(field_type &row, const zel::ravix::tagged<Tag, Wide, Other> &kind) {
+  using R = typename Tag::record_type;
+  using zel::ravix::alternative;
+  const field_type wide = field_of(kind.wide, R{});
+  const field_type other = field_of(kind.other, R{});
+  fill_by<R>(row, kind, [wide, other](const auto & /*field*/, R &r, randomness &random) {
+    while (Tag::of(r) == alternative::none && random.kind != variety::hostile) {
+      choose(r, random);
+    }
+    if (Tag::of(r) != alternative::none) {
+      (Tag::of(r) == alternative::wide ? wide : other).fill(&r, random);
+    }
+  });
+  compare_by<R>(row, kind, [wide, other](const auto & /*field*/, const R &a, const R &b, bool strictly) {
+    const int order = static_cast<int>(Tag::of(a)) - static_cast<int>(Tag::of(b));
+    return order != 0 ? order : (Tag::of(a) == alternative::other ? other : wide).compare(&a, &b, strictly);
+  });
+}
+
+template <class Kind, class R> field_type field_of(const Kind &field, const R &empty) {
+  field_type row{&field, field.name, !requires {field.difference(empty, empty);
+}
+, {}, {}, {}
+}; // namespace
+field.members(empty, [&](const auto &member) {
+  const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&empty);
+  row.members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
+});
+row.fill = [members = row.members](void *r, randomness &random) {
+  for (const auto &[offset, type] : members) {
+    type->fill(static_cast<char *>(r) + offset, random);
+  }
+};
+row.compare = [members = row.members](const void *a, const void *b, bool strictly) {
+  int order = 0;
+  for (const auto &[offset, type] : members) {
+    order = order != 0
+                ? order
+                : type->compare(static_cast<const char *>(a) + offset, static_cast<const char *>(b) + offset, strictly);
+  }
+  return order;
+};
+if constexpr (requires { specialize(row, field); }) {
+  specialize(row, field);
+}
+return row;
+} // namespace harness
+
+// ---- records
+
+template <class R, class... T> constexpr bool is_one_of = (std::is_same_v<R, T> || ...);
+
+template <class R> void add_table_operations(record_type &row) {
+  using operations = record<R>;
+  using Entry = zel::ravix::entry_of<R>;
+  row.element = &value_of<zel::ravix::element_of<R>>();
+  row.count = [](void *t) { return &static_cast<R *>(t)->count; };
+  row.data = [](const void *t) -> void * { return static_cast<const R *>(t)->data; };
+  row.init = [](void *t, unsigned count) { return operations::init(static_cast<R *>(t), count); };
+  row.add_entry = [](void *t, const void *entry) {
+    return operations::add_entry(static_cast<R *>(t), static_cast<Entry *>(entry));
+  };
+  if constexpr (requires { operations::contains_entry; }) {
+    row.contains_entry = [](const void *t, const void *entry) {
+      return operations::contains_entry(static_cast<const R *>(t), static_cast<Entry *>(entry));
+    };
+  }
+}
+
+template <class R> const record_type &row_of() {
+  using operations = record<R>;
+  const auto make = [] {
+    constexpr bool is_table = requires {
+      operations::init;
+    };
+    record_type row{};
+    const std::string name = typeid(R).name();
+    row.name = name.substr(name.find_first_not_of("0123456789")); // behind its length
+    row.info = &typeid(R);
+    row.size = sizeof(R);
+    R empty{};
+    operations::clear(&empty);
+    zel::ravix::for_each_field<R>([&](const auto &field) { row.fields.push_back(field_of(field, empty)); });
+    row.compares_references = is_one_of<R, ravix_tlv_t, ravix_tlv_table_t>;
+    row.copies_leniently = is_one_of<R, ravix_remote_ap_entry_t, ravix_remote_ap_table_t, ravix_remote_client_entry_t,
+                                     ravix_remote_client_table_t>;
+    const auto allocates = [&](auto &...function) {
+      (row.allocating.push_back(reinterpret_cast<const void *>(&function)), ...);
+    };
+    allocates(operations::create, operations::clone, operations::copy);
+    row.create = [](unsigned count) -> void * {
+      if constexpr (is_table) {
+        return operations::create(count);
+      } else {
+        return operations::create();
+      }
+    };
+    row.clone = [](const void *r) -> void * { return operations::clone(static_cast<const R *>(r)); };
+    row.copy = [](const void *src, void *dest) {
+      return operations::copy(static_cast<const R *>(src), static_cast<R *>(dest));
+    };
+    row.clear = [](void *r) { operations::clear(static_cast<R *>(r)); };
+    row.free = [](void *r) { operations::free(static_cast<R *>(r)); };
+    if constexpr (requires { operations::compare; }) {
+      row.compare = [](const void *a, const void *b) {
+        return operations::compare(static_cast<const R *>(a), static_cast<const R *>(b));
+      };
+    }
+    if constexpr (requires(std::ostream & os) { os << empty; }) {
+      row.print = [](std::ostream &os, const void *r) { os << *static_cast<const R *>(r); };
+    }
+    if constexpr (requires(std::ostream & os) { print_diff(os, empty, &empty, "", 1, true); }) {
+      row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *heading) {
+        print_diff(os, *static_cast<const R *>(r), static_cast<const R *>(ref), heading, 1, true);
+      };
+    }
+    if constexpr (is_table) {
+      allocates(operations::init, operations::add_entry);
+      add_table_operations<R>(row);
+    }
+    return row;
+  };
+  static const record_type row = make();
+  return row;
+}
+
+template <class... R> std::vector<const record_type *> rows_of(zel::ravix::type_list<R...> /*records*/) {
+  return {&row_of<R>()...};
+}
+
+} // namespace
+
+const std::vector<const record_type *> &record_types() {
+  static const std::vector<const record_type *> rows = rows_of(zel::ravix::all_records{});
+  return rows;
+}
+
+const record_type &type_of(const std::type_info &info) {
+  return **std::find_if(record_types().begin(), record_types().end(),
+                        [&](const record_type *type) { return *type->info == info; });
+}
+
+void record_type::fill(void *r, randomness &random) const {
+  for (const field_type &field : fields) {
+    field.fill(r, random);
+  }
+  if (*info == typeid(ravix_ip_addr_t)) {
+    auto &address = *static_cast<ravix_ip_addr_t *>(r);
+    address.version = static_cast<std::uint8_t>(random.kind == variety::hostile ? 77 : 1 + random.up_to(1));
+    if (address.version == RAVIX_IP_VERSION_4) {
+      std::memset(&address.addr[4], 0, sizeof address.addr - 4); // do not count
+    }
+  }
+}
+
+void record_type::fill_table(void *table, std::uint32_t wanted, randomness &random) const {
+  init(table, wanted);
+  for (std::uint32_t i = 0; i < *count(table); ++i) {
+    element->fill(at(table, i), random);
+  }
+}
+
+std::string record_type::difference(const void *a, const void *b) const {
+  int order = 0;
+  const field_type *field = first_difference(*this, a, b, true, order);
+  return field != nullptr ? field->name : "";
+}
+
+int record_type::order(const void *a, const void *b) const {
+  int order = 0;
+  first_difference(*this, a, b, false, order);
+  return order;
+}
+
+// ---- what must hold of every operation
+
+// What a run works on.
+struct trial::records {
+  any_sample source, source_twin, dest, dest_twin, empty;
+};
+
+void trial::require(bool holds, const char *invariant) {
+  if (!holds && broken.empty()) {
+    broken = (type_ != nullptr ? type_->name : "") + ", request " + std::to_string(k_) + ": " + invariant;
+  }
+}
+
+// Runs an operation; tells whether it succeeded and did so in full.
+bool trial::succeeds(const std::function<bool()> &operation) {
+  log.take();
+  onward_ ? heap.fail_from(k_) : heap.fail_only(k_);
+  const bool succeeded = operation();
+  const bool failed = k_ != 0 && heap.requests() >= k_;
+  heap.fail_only(0);
+  reached_ = reached_ || failed;
+  bool text_lost = type_ != nullptr && type_->copies_leniently;
+  const auto lines = log.take();
+  for (const log_line &line : lines) {
+    require(line.name == "ravix" || is_hostile_, "the module of a line");
+    require(line.file.starts_with("src/ravix_types_") && line.file.find('.') == std::string::npos, "its source");
+    require(!line.function.empty() && line.line > 0, "its place");
+    // A text that a lenient copy has lost is told by the copy's own line and nothing else.
+    text_lost = text_lost && line.function.ends_with("_entry_copy") && line.text == "No memory available!";
+  }
+  require(!failed || !lines.empty(), "a failed request is told");
+  require(failed || lines.empty() || is_hostile_, "nothing is told without need");
+  require(succeeded == (lines.empty() || text_lost), "an operation that fails says so");
+  return succeeded && lines.empty();
+}
+
+bool trial::run(const std::function<bool()> &operation, std::size_t k, bool onward) {
+  k_ = k;
+  onward_ = onward;
+  reached_ = false;
+  succeeds(operation);
+  return reached_;
+}
+
+bool trial::run(const record_type &type, const randomness &first, const randomness &second, std::size_t k,
+                bool onward) {
+  type_ = &type;
+  is_hostile_ = first.kind == variety::hostile;
+  k_ = k;
+  onward_ = onward;
+  reached_ = false;
+  const std::size_t before = heap.live();
+  {
+    const records all{{type, first}, {type, first}, {type, second}, {type, second}, any_sample(type)};
+    print(all);
+    grow(all);
+    copy(all);
+  }
+  require(heap.live() == before, "no block is left");
+  return reached_;
+}
+
+void trial::print(const records &all) {
+  log.take();
+  std::ostringstream out, whole, changes;
+  if (type_->print != nullptr) {
+    type_->print(out, all.source);
+    require(!out.str().empty() && out.str().back() != '\n', "a print has no line break at its end");
+  }
+  if (type_->print_diff != nullptr) {
+    type_->print_diff(whole, all.source, nullptr, "name");
+    require(whole.str().starts_with(" name:") && whole.str().back() == '\n', "a print of all");
+    type_->print_diff(changes, all.source, all.dest, nullptr);
+    require(changes.str().empty() == (type_->compare(all.source, all.dest) == 0), "a print of what differs");
+    type_->print_diff(out, all.dest, all.source, nullptr);
+  }
+  require((out.str() + whole.str() + changes.str()).find('\0') == std::string::npos, "what is printed is text");
+  require(log.take().empty(), "printing logs nothing");
+}
+
+void trial::copy(const records &all) {
+  const record_type &type = *type_;
+  const auto sign = [](int order) { return (order > 0) - (order < 0); };
+  if (type.compare != nullptr) {
+    require(is_hostile_ || type.compare(all.source, all.source) == 0, "a record is equal to itself");
+    require(sign(type.compare(all.source, all.dest)) == -sign(type.compare(all.dest, all.source)) || is_hostile_,
+            "order");
+  }
+  void *clone = nullptr;
+  const bool is_cloned = succeeds([&] { return (clone = type.clone(all.source)) != nullptr; });
+  int code = 0;
+  const bool is_copied = succeeds([&] { return (code = type.copy(all.source, all.dest)) == 0; });
+  const bool is_empty = type.difference(all.dest, all.empty).empty();
+  const bool is_refused = code == -22 && is_hostile_;
+  require(code == 0 || code == -12 || code == RAVIX_FAIL_GENERAL || is_refused, "the result of a copy");
+  require(code == 0 || is_empty || (is_refused && type.difference(all.dest, all.dest_twin).empty()), "all or nothing");
+  require(type.difference(all.source, all.source_twin).empty(), "the source is unchanged");
+  if (is_copied) {
+    require(type.copy(all.dest, all.dest) == 0, "a copy onto itself");
+  }
+  if (is_cloned && is_copied && type.compare != nullptr && !type.compares_references) {
+    require(is_hostile_ || type.compare(clone, all.dest) == 0, "copies are equal");
+    require(is_hostile_ || type.compare(clone, all.source) == 0, "a clone is equal");
+  }
+  require(!is_cloned || !is_copied || type.difference(clone, all.dest).empty(), "copies are the same");
+  for (const bool is_cleared : {false, true}) {
+    const void *source = is_cleared ? all.source_twin : all.source;
+    require(is_hostile_ || !is_cloned || type.difference(clone, source).empty(), "a clone is the same");
+    require(is_hostile_ || !is_copied || type.difference(all.dest, source).empty(), "a copy is the same");
+    type.clear(all.source);
+    require(is_hostile_ || type.difference(all.source, all.empty).empty(), "a cleared record is empty");
+  }
+  type.free(clone);
+}
+
+void trial::grow(const records &all) {
+  const record_type &type = *type_;
+  void *made = nullptr;
+  if (succeeds([&] { return (made = type.create(0)) != nullptr; })) {
+    require(type.difference(made, all.empty).empty(), "a new record is empty");
+  }
+  type.free(made);
+  if (type.element == nullptr) {
+    return;
+  }
+  std::vector<std::byte> empty(type.element->size);
+  if (type.element->record != nullptr) {
+    type.element->record->clear(empty.data());
+  }
+  const auto has_empty_elements = [&](void *table) {
+    bool all_empty = *type.count(table) == 3;
+    for (std::uint32_t i = 0; i < *type.count(table); ++i) {
+      all_empty = all_empty && type.element->compare(type.at(table, i), empty.data(), true) == 0;
+    }
+    return all_empty;
+  };
+  if (succeeds([&] { return (made = type.create(3)) != nullptr; })) {
+    require(has_empty_elements(made), "new elements are empty");
+  }
+  type.free(made);
+  int code = 0;
+  const any_sample table(type, 1);
+  if (succeeds([&] { return (code = type.init(table, 3)) == 0; })) {
+    require(has_empty_elements(table), "new elements are empty");
+  }
+  require(code == 0 || (code == -12 && *type.count(table) == 0), "the result of an initialisation");
+  if (type.data(all.source) == nullptr || *type.count(all.source) == 0) {
+    return;
+  }
+  const std::uint32_t count = *type.count(all.dest);
+  const bool is_added = succeeds([&] { return (code = type.add_entry(all.dest, type.data(all.source))) == 0; });
+  require(code == 0 || code == -12 || is_hostile_, "the result of an addition");
+  require(*type.count(all.dest) == count + (code == 0 ? 1 : 0), "an entry more");
+  if (is_added && !is_hostile_) {
+    require(type.element->compare(type.at(all.dest, count), type.data(all.source), true) == 0, "the entry is the same");
+    require(type.contains_entry == nullptr || type.compares_references ||
+                type.contains_entry(all.dest, type.data(all.source)),
+            "the entry is found");
+  }
+  for (std::uint32_t i = 0; i < count; ++i) {
+    require(type.element->compare(type.at(all.dest, i), type.at(all.dest_twin, i), true) == 0, "the others remain");
+  }
+}
+
+} // namespace harness

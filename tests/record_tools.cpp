@@ -126,7 +126,7 @@ template <class T> const value_type &value_of() {
   static const value_type value = [] {
     value_type made{};
     made.size = sizeof(T);
-    made.alignment = alignof(T);
+    made.alignment = std::is_arithmetic_v<T> ? sizeof(T) : alignof(T);
     made.is_pointer = std::is_pointer_v<T>;
     if constexpr (has_record<T>) {
       made.record = &row_of<T>();

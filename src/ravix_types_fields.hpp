@@ -139,29 +139,39 @@ template <class R> void record_clear(R *obj, call_site site) {
   }
 }
 
-// The part of a copy that can fail: `dest` ends as a full copy or empty.
-template <class R> int copy_or_clear(const R *src, R *dest, call_site site) {
-  // Values that the record refuses as a whole leave `dest` untouched.
+// Values that a record refuses as a whole; success or -22.
+template <class R> int check_values(const R &src, call_site site) {
   const char *refusal = nullptr;
   for_each_field<R>([&](const auto &field) {
     if constexpr (requires { field.refusal; }) {
-      refusal = field.copyable(*src) ? refusal : field.refusal;
+      refusal = field.copyable(src) ? refusal : field.refusal;
     }
   });
   if (refusal != nullptr) [[unlikely]] {
     log_error(site, {refusal});
     return invalid_argument;
   }
-  if (src == dest) {
-    return success;
+  return success;
+}
+
+// The part of a copy that can fail, into a record that is empty, zero-filled or owns nothing: `dest` ends as a full
+// copy or empty.
+template <class R> int record_copy_into_empty(const R &src, R &dest, call_site site) {
+  if constexpr (is_flat<R>()) {
+    if (copyable_fields(src)) [[likely]] {
+      transfer_fields(src, dest);
+      return success;
+    }
   }
-  record<R>::clear(dest);
-  const failure failed = copy_fields(*src, *dest, site);
+  if (const int code = check_values(src, site); code != success) [[unlikely]] {
+    return code;
+  }
+  const failure failed = copy_fields(src, dest, site);
   if (failed) [[unlikely]] {
     if (failed.message != nullptr) {
       log_error(site, {failed.message});
     }
-    record<R>::clear(dest);
+    record<R>::clear(&dest);
   }
   return failed.code;
 }
@@ -170,13 +180,17 @@ template <class R> int record_copy(const R *src, R *dest, call_site site) {
   if (const int code = check_copy_arguments(src, dest, site); code != success) [[unlikely]] {
     return code;
   }
-  if constexpr (is_flat<R>()) {
-    if (src != dest && copyable_fields(*src)) [[likely]] {
-      transfer_fields(*src, *dest);
-      return success;
-    }
+  // Refused values leave `dest` untouched, and that includes a record that is its own copy.
+  if (const int code = check_values(*src, site); code != success) [[unlikely]] {
+    return code;
   }
-  return copy_or_clear(src, dest, site);
+  if (src == dest) [[unlikely]] {
+    return success;
+  }
+  if constexpr (!is_flat<R>()) {
+    record<R>::clear(dest);
+  }
+  return record<R>::copy_into_empty(src, dest);
 }
 
 template <class R> RAVIX_FLATTEN int record_compare(const R *a, const R *b) {
@@ -208,7 +222,11 @@ template <has_record R> struct element<R> {
         return success;
       }
     }
-    return record<R>::copy(src, dest);
+    if constexpr (requires { record<R>::add_entry; }) {
+      return record<R>::copy(src, dest);
+    } else {
+      return record<R>::copy_into_empty(src, dest);
+    }
   }
 
   static int compare(const R *a, const R *b) { return compare_fields(*a, *b); }
@@ -610,11 +628,13 @@ template <class Kind> struct secret : Kind {
 
 // ---- exported operations, one line per record
 
-// Name the exported operations of a record or table; they stand in its record<>.
+// Name the exported operations of a record or table; they stand in its record<>. A record, not a table, has one
+// besides: its copy into a zero-filled or empty record, which speaks in the exported copy's name.
 #define RAVIX_OPERATIONS(NAME)                                                                                         \
   static constexpr auto &create = NAME##_create;                                                                       \
   static constexpr auto &clone = NAME##_clone;                                                                         \
   static constexpr auto &copy = NAME##_copy;                                                                           \
+  static decltype(NAME##_copy) copy_into_empty;                                                                        \
   static constexpr auto &clear = NAME##_clear;                                                                         \
   static constexpr auto &free = NAME##_free;
 #define RAVIX_COMPARED_OPERATIONS(NAME)                                                                                \
@@ -638,7 +658,7 @@ template <class Kind> struct secret : Kind {
     return zel::ravix::generic_create<T>(NAME##_clear, here);                                                          \
   }                                                                                                                    \
   T *NAME##_clone(const T *old_obj) {                                                                                  \
-    return zel::ravix::generic_clone<T>(old_obj, NAME##_copy, NAME##_free, here);                                      \
+    return zel::ravix::generic_clone<T>(old_obj, zel::ravix::record<T>::copy_into_empty, NAME##_free, here);           \
   }                                                                                                                    \
   void NAME##_free(T *obj) {                                                                                           \
     zel::ravix::generic_free<T>(obj, NAME##_clear);                                                                    \
@@ -650,6 +670,9 @@ template <class Kind> struct secret : Kind {
 #define RAVIX_RECORD_COPY(NAME, T)                                                                                     \
   int NAME##_copy(const T *src, T *dest) {                                                                             \
     return zel::ravix::record_copy(src, dest, here);                                                                   \
+  }                                                                                                                    \
+  int zel::ravix::record<T>::copy_into_empty(const T *src, T *dest) {                                                  \
+    return record_copy_into_empty(*src, *dest, {here, #NAME "_copy"});                                                 \
   }
 #define RAVIX_RECORD_COMPARE(NAME, T)                                                                                  \
   int NAME##_compare(const T *a, const T *b) {                                                                         \

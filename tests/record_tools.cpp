@@ -244,34 +244,35 @@ void specialize(field_type &row, const zel::ravix::tagged<Tag, Wide, Other> &kin
   });
 }
 
+template <class Kind, class R>
+concept uncompared = requires(const Kind &field, const R &r) {
+  field.difference(r, r);
+};
+
 template <class Kind, class R> field_type field_of(const Kind &field, const R &empty) {
-  field_type row{&field, field.name, !requires {field.difference(empty, empty);
-}
-, {}, {}, {}
-}; // namespace
-field.members(empty, [&](const auto &member) {
-  const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&empty);
-  row.members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
-});
-row.fill = [members = row.members](void *r, randomness &random) {
-  for (const auto &[offset, type] : members) {
-    type->fill(static_cast<char *>(r) + offset, random);
+  field_type row{&field, field.name, !uncompared<Kind, R>, {}, {}, {}};
+  field.members(empty, [&](const auto &member) {
+    const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&empty);
+    row.members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
+  });
+  row.fill = [members = row.members](void *r, randomness &random) {
+    for (const auto &[offset, type] : members) {
+      type->fill(static_cast<char *>(r) + offset, random);
+    }
+  };
+  row.compare = [members = row.members](const void *a, const void *b, bool strictly) {
+    int order = 0;
+    for (auto member = members.begin(); member != members.end() && order == 0; ++member) {
+      const auto at = [=](const void *r) { return static_cast<const char *>(r) + member->offset; };
+      order = member->type->compare(at(a), at(b), strictly);
+    }
+    return order;
+  };
+  if constexpr (requires { specialize(row, field); }) {
+    specialize(row, field);
   }
-};
-row.compare = [members = row.members](const void *a, const void *b, bool strictly) {
-  int order = 0;
-  for (const auto &[offset, type] : members) {
-    order = order != 0
-                ? order
-                : type->compare(static_cast<const char *>(a) + offset, static_cast<const char *>(b) + offset, strictly);
-  }
-  return order;
-};
-if constexpr (requires { specialize(row, field); }) {
-  specialize(row, field);
+  return row;
 }
-return row;
-} // namespace harness
 
 // ---- records
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 namespace harness {
 
@@ -244,30 +245,37 @@ void specialize(field_type &row, const zel::ravix::tagged<Tag, Wide, Other> &kin
   });
 }
 
+// Filled and compared member by member.
+field_type plain_field(const void *kind, const char *name, bool is_compared, std::vector<field_type::member> members) {
+  field_type row{kind, name, is_compared, std::move(members), {}, {}};
+  row.fill = [list = row.members](void *r, randomness &random) {
+    for (const auto &[offset, type] : list) {
+      type->fill(static_cast<char *>(r) + offset, random);
+    }
+  };
+  row.compare = [list = row.members](const void *a, const void *b, bool strictly) {
+    int order = 0;
+    for (auto member = list.begin(); member != list.end() && order == 0; ++member) {
+      const auto at = [=](const void *r) { return static_cast<const char *>(r) + member->offset; };
+      order = member->type->compare(at(a), at(b), strictly);
+    }
+    return order;
+  };
+  return row;
+}
+
 template <class Kind, class R>
 concept uncompared = requires(const Kind &field, const R &r) {
   field.difference(r, r);
 };
 
 template <class Kind, class R> field_type field_of(const Kind &field, const R &empty) {
-  field_type row{&field, field.name, !uncompared<Kind, R>, {}, {}, {}};
+  std::vector<field_type::member> members;
   field.members(empty, [&](const auto &member) {
     const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&empty);
-    row.members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
+    members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
   });
-  row.fill = [members = row.members](void *r, randomness &random) {
-    for (const auto &[offset, type] : members) {
-      type->fill(static_cast<char *>(r) + offset, random);
-    }
-  };
-  row.compare = [members = row.members](const void *a, const void *b, bool strictly) {
-    int order = 0;
-    for (auto member = members.begin(); member != members.end() && order == 0; ++member) {
-      const auto at = [=](const void *r) { return static_cast<const char *>(r) + member->offset; };
-      order = member->type->compare(at(a), at(b), strictly);
-    }
-    return order;
-  };
+  field_type row = plain_field(&field, field.name, !uncompared<Kind, R>, std::move(members));
   if constexpr (requires { specialize(row, field); }) {
     specialize(row, field);
   }

@@ -51,9 +51,10 @@ concept table_record = has_record<T> && requires(const T &table) {
   table.data;
 };
 
+template <class E> inline constexpr bool has_heading = heading<E> != nullptr;
+
 template <class T>
-concept record_table = table_record<T> && heading<element_of<T>>
-!= nullptr;
+concept record_table = table_record<T> && has_heading<element_of<T>>;
 
 // Difference of a field to a reference, as a difference print sees it.
 template <class Kind, class R> int field_difference(const Kind &field, const R &r, const R &ref) {

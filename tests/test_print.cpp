@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <iomanip>
 #include <ios>
 #include <ostream>
@@ -220,8 +221,14 @@ TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
   std::uint8_t octets[17] = {0x00, 0x7F, 0x80, 0xFF};
   add_all<ravix_tlv_t>(golden,
                        {{"none", {221, 0, nullptr}}, {"a row", {221, 16, octets}}, {"more", {221, 17, octets}}});
+  const auto rule = [](std::uint32_t type) {
+    ravix_cfg_auto_update_rule_t made;
+    std::memset(&made, 0, sizeof made); // braces would leave what lies beyond the first member of the union
+    made.type = type;
+    return made;
+  };
   add_all<ravix_cfg_auto_update_rule_t>(
-      golden, {{"no rule", {}}, {"mode", {false, 1, {}}}, {"feature", {false, 2, {}}}, {"odd rule", {false, 7, {}}}});
+      golden, {{"no rule", rule(0)}, {"mode", rule(1)}, {"feature", rule(2)}, {"odd rule", rule(7)}});
 
   ravix_cfg_role_config_ap_t ap_config{};
   ravix_cfg_role_config_sta_t station_config{};

@@ -74,6 +74,7 @@ public:
   std::size_t live() const { return live_.size(); }
   // Requests since construction or the last call of a fail function.
   std::size_t requests() const { return requests_; }
+  std::size_t octets() const { return octets_; } // that these asked for
   // Tags of all requests, and of those that were failed (alone or with all that follow).
   const std::set<tag> &requested() const { return requested_; }
   const std::set<tag> &failed_only() const { return failed_[0]; }
@@ -82,6 +83,7 @@ public:
 private:
   void arm(std::size_t k, bool all) {
     requests_ = 0;
+    octets_ = 0;
     fail_at_ = k;
     fail_all_ = all;
   }
@@ -89,6 +91,7 @@ private:
     const std::lock_guard lock(mutex_);
     requested_.emplace(file, line);
     ++requests_;
+    octets_ += count * size;
     if (fail_at_ != 0 && (requests_ == fail_at_ || (fail_all_ && requests_ > fail_at_))) {
       failed_[fail_all_ ? 1 : 0].emplace(file, line);
       return nullptr;
@@ -115,7 +118,7 @@ private:
   slab_host_allocator hooks_{this, allocate_zeroed, resize, release};
   std::set<void *> live_;
   std::set<tag> requested_, failed_[2];
-  std::size_t requests_ = 0;
+  std::size_t requests_ = 0, octets_ = 0;
   std::size_t fail_at_ = 0;
   bool fail_all_ = false;
 };

@@ -322,6 +322,19 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
   EXPECT_EQ(heap.live(), 0U);
 }
 
+TEST(AllRecords, TakeNoMoreMemoryThanTheirSize) {
+  harness::heap heap;
+  for_each([&](const record_type &type) {
+    const any_sample empty(type);
+    heap.fail_only(0);
+    type.free(type.create(3));
+    const std::size_t created = type.size + (type.element != nullptr ? 3 * type.element->size : 0);
+    EXPECT_EQ(heap.octets(), created);
+    type.free(type.clone(empty));
+    EXPECT_EQ(heap.octets(), created + type.size);
+  });
+}
+
 // ---- comparisons
 
 TEST(ComparedRecords, TheFirstFieldThatDiffersDecides) {

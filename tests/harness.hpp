@@ -79,6 +79,7 @@ public:
   const std::set<tag> &requested() const { return requested_; }
   const std::set<tag> &failed_only() const { return failed_[0]; }
   const std::set<tag> &failed_from() const { return failed_[1]; }
+  const tag &last_release() const { return last_release_; }
 
 private:
   void arm(std::size_t k, bool all) {
@@ -107,10 +108,11 @@ private:
   static void *resize(void *context, void *ptr, std::size_t size, const char *file, int line) {
     return static_cast<heap *>(context)->request(ptr, 1, size, file, line);
   }
-  static void release(void *context, void *ptr, const char * /*file*/, int /*line*/) {
+  static void release(void *context, void *ptr, const char *file, int line) {
     auto *self = static_cast<heap *>(context);
     const std::lock_guard lock(self->mutex_);
     self->live_.erase(ptr);
+    self->last_release_ = {file, line};
     std::free(ptr);
   }
 
@@ -118,6 +120,7 @@ private:
   slab_host_allocator hooks_{this, allocate_zeroed, resize, release};
   std::set<void *> live_;
   std::set<tag> requested_, failed_[2];
+  tag last_release_;
   std::size_t requests_ = 0, octets_ = 0;
   std::size_t fail_at_ = 0;
   bool fail_all_ = false;

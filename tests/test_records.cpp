@@ -322,8 +322,9 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
   EXPECT_EQ(heap.live(), 0U);
 }
 
-TEST(AllRecords, TakeNoMoreMemoryThanTheirSize) {
+TEST(AllRecords, TakeNoMoreMemoryThanTheirSizeAndSayWhoReleasesIt) {
   harness::heap heap;
+  const harness::captured_log log; // an empty role is refused
   for_each([&](const record_type &type) {
     const any_sample empty(type);
     heap.fail_only(0);
@@ -332,6 +333,7 @@ TEST(AllRecords, TakeNoMoreMemoryThanTheirSize) {
     EXPECT_EQ(heap.octets(), created);
     type.free(type.clone(empty));
     EXPECT_EQ(heap.octets(), created + type.size);
+    EXPECT_EQ(heap.last_release(), (harness::heap::tag{"src/ravix_types_generic_simple", 99}));
   });
 }
 

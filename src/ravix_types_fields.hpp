@@ -32,11 +32,12 @@
 #include <type_traits>
 #include <utility>
 
-// A comparison is one function, without calls from record to record; where code is to be small, these calls stay.
-#ifdef __OPTIMIZE_SIZE__
-#define RAVIX_FLATTEN
-#else
+// A comparison is one function, without calls from record to record; where code is to be small, or as it is written,
+// these calls stay.
+#if defined(__OPTIMIZE__) && !defined(__OPTIMIZE_SIZE__)
 #define RAVIX_FLATTEN [[gnu::flatten]]
+#else
+#define RAVIX_FLATTEN
 #endif
 
 namespace zel::ravix {

@@ -50,20 +50,22 @@ concept has_record = requires {
   record<T>::fields;
 };
 
+template <class R>
+using field_indices = std::make_index_sequence<std::tuple_size_v<std::remove_cvref_t<decltype(record<R>::fields)>>>;
+
+template <class R, class Visit> constexpr void for_each_field(Visit visit) {
+  [&]<std::size_t... i>(std::index_sequence<i...>) {
+    (visit(std::get<i>(record<R>::fields)), ...);
+  }
+  (field_indices<R>{});
+}
+
 // All of the fields satisfy the predicate; stops at the first that does not.
 template <class R, class Predicate> constexpr bool all_fields(Predicate holds) {
-  constexpr std::size_t count = std::tuple_size_v<std::remove_cvref_t<decltype(record<R>::fields)>>;
   return [&]<std::size_t... i>(std::index_sequence<i...>) {
     return (holds(std::get<i>(record<R>::fields)) && ...);
   }
-  (std::make_index_sequence<count>{});
-}
-
-template <class R, class Visit> constexpr void for_each_field(Visit visit) {
-  all_fields<R>([&](const auto &field) {
-    visit(field);
-    return true;
-  });
+  (field_indices<R>{});
 }
 
 // What a failed copy of a field logs and returns. Without a message the field has said what there is to say; with the

@@ -142,6 +142,12 @@ template <class R> void record_clear(R *obj, call_site site) {
   }
 }
 
+// Tells why a copy fails, out of the way of those that succeed.
+[[gnu::cold, gnu::noinline]] inline int refuse(call_site site, const char *message) {
+  log_error(site, {message});
+  return invalid_argument;
+}
+
 // Values that a record refuses as a whole; success or -22.
 template <class R> int check_values(const R &src, call_site site) {
   const char *refusal = nullptr;
@@ -150,11 +156,7 @@ template <class R> int check_values(const R &src, call_site site) {
       refusal = field.copyable(src) ? refusal : field.refusal;
     }
   });
-  if (refusal != nullptr) [[unlikely]] {
-    log_error(site, {refusal});
-    return invalid_argument;
-  }
-  return success;
+  return refusal == nullptr ? success : refuse(site, refusal);
 }
 
 // The part of a copy that can fail, into a record that is empty, zero-filled or owns nothing: `dest` ends as a full
@@ -172,7 +174,7 @@ template <class R> int record_copy_into_empty(const R &src, R &dest, call_site s
   const failure failed = copy_fields(src, dest, site);
   if (failed) [[unlikely]] {
     if (failed.message != nullptr) {
-      log_error(site, {failed.message});
+      refuse(site, failed.message);
     }
     record<R>::clear(&dest);
   }

@@ -13,7 +13,7 @@ import sys
 
 SECTION = re.compile(r"^Disassembly of section (\S+):", re.M)
 FUNCTION = re.compile(r"^[0-9a-f]+ <(.+)>:$")
-LOG_CALL = re.compile(r"R_\S+\s+_ZN3zel5ravix\d+log_(?:error|invalid_pointer|assertion)E")
+LOG_CALL = re.compile(r"R_\S+\s+_ZN3zel5ravix4line\d+log_(?:error|invalid_pointer|assertion)E")
 RETURN = re.compile(r"\tret\b")
 JUMP = re.compile(r"\t(?:notrack )?jmp\b")
 TEST = re.compile(r"\tj(?!mp)")

@@ -28,7 +28,7 @@ int string_copy(const char *const *src, char **dest) {
   }
   *dest = slab_dstrdup(*src, here, __LINE__);
   if (*dest == nullptr) {
-    log_error(here, {"No memory available!"});
+    log_error(here, "No memory available!");
     return out_of_memory;
   }
   return success;

@@ -144,7 +144,7 @@ template <class R> void record_clear(R *obj, call_site site) {
 
 // Tells why a copy fails, out of the way of those that succeed.
 [[gnu::cold, gnu::noinline]] inline int refuse(call_site site, const char *message) {
-  log_error(site, {message});
+  log_error(site, message);
   return invalid_argument;
 }
 

@@ -33,7 +33,7 @@ inline constexpr int free_line = 99;
 template <class T> T *generic_create(void (*clear)(T *), const char *family) {
   auto *record = static_cast<T *>(slab_dcalloc(1, sizeof(T), frame::source, frame::create_allocation_line));
   if (record == nullptr) [[unlikely]] {
-    log_error({family, "generic_create", frame::create_no_memory_line}, {"No memory available!"});
+    log_error({family, "generic_create", frame::create_no_memory_line}, "No memory available!");
     return nullptr;
   }
   clear(record);
@@ -49,11 +49,11 @@ T *generic_clone(const T *old_obj, int (*copy)(const T *, T *), void (*free)(T *
   }
   auto *record = static_cast<T *>(slab_dcalloc(1, sizeof(T), frame::source, frame::clone_allocation_line));
   if (record == nullptr) [[unlikely]] {
-    log_error({family, "generic_clone", frame::clone_no_memory_line}, {"No memory available!"});
+    log_error({family, "generic_clone", frame::clone_no_memory_line}, "No memory available!");
     return nullptr;
   }
   if (copy(old_obj, record) != success) [[unlikely]] {
-    log_error({family, "generic_clone", frame::clone_copy_error_line}, {"Copy error!"});
+    log_error({family, "generic_clone", frame::clone_copy_error_line}, "Copy error!");
     free(record);
     return nullptr;
   }

@@ -72,7 +72,7 @@ int generic_table_init(T *table, unsigned count, const char *family) {
   using E = element_of<T>;
   table->data = static_cast<E *>(slab_dcalloc(count, sizeof(E), table::source, __LINE__));
   if (table->data == nullptr) [[unlikely]] {
-    log_error({family, __func__}, {"No memory available!"});
+    log_error({family, __func__}, "No memory available!");
     return out_of_memory;
   }
   table->count = count;
@@ -87,11 +87,11 @@ int generic_table_init(T *table, unsigned count, const char *family) {
 template <class T> T *generic_table_create(unsigned count, const char *family) {
   auto *table = static_cast<T *>(slab_dcalloc(1, sizeof(T), table::source, __LINE__));
   if (table == nullptr) [[unlikely]] {
-    log_error({family, __func__}, {"No memory available!"});
+    log_error({family, __func__}, "No memory available!");
     return nullptr;
   }
   if (generic_table_init(table, count, family) != success) [[unlikely]] {
-    log_error({family, __func__}, {"Init error!"});
+    log_error({family, __func__}, "Init error!");
     generic_table_clear(table);
     slab_cbcontext_free(table, table::source, __LINE__);
     return nullptr;
@@ -115,7 +115,7 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*src);
   if (const int code = generic_table_init<T, !element<E>::is_flat>(dest, count, family); code != success) [[unlikely]] {
-    log_error({family, __func__}, {"Init error!"});
+    log_error({family, __func__}, "Init error!");
     return code;
   }
   if constexpr (plain_table<T>) {
@@ -125,7 +125,7 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   } else {
     for (std::uint32_t i = 0; i < count; ++i) {
       if (const int code = element<E>::copy(&src->data[i], &dest->data[i]); code != success) [[unlikely]] {
-        log_error({family, __func__}, {"Copy error!"});
+        log_error({family, __func__}, "Copy error!");
         generic_table_clear(dest);
         return code;
       }
@@ -144,7 +144,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
     return invalid_argument;
   }
   if (table->count == UINT32_MAX) [[unlikely]] {
-    log_error({family, __func__}, {"Maximum number of entries reached!"});
+    log_error({family, __func__}, "Maximum number of entries reached!");
     return invalid_argument;
   }
   using E = element_of<T>;
@@ -152,7 +152,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   const std::uint32_t old_size = table->count * static_cast<std::uint32_t>(sizeof(E));
   const std::uint32_t new_size = old_size + static_cast<std::uint32_t>(sizeof(E));
   if (new_size < old_size) [[unlikely]] {
-    log_error({family, __func__}, {"Overflow would occur!"});
+    log_error({family, __func__}, "Overflow would occur!");
     return invalid_argument;
   }
   const std::uint32_t count = table::elements(*table);
@@ -162,7 +162,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
   auto *grown =
       static_cast<E *>(slab_drealloc(table->data, count != 0 ? new_size : sizeof(E), table::source, __LINE__));
   if (grown == nullptr) [[unlikely]] {
-    log_error({family, __func__}, {"No memory available!"});
+    log_error({family, __func__}, "No memory available!");
     return out_of_memory;
   }
   if (entry_is_own) {
@@ -178,7 +178,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
       std::memset(static_cast<void *>(slot), 0, sizeof(E));
     }
     if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
-      log_error({family, __func__}, {"Copy error!"});
+      log_error({family, __func__}, "Copy error!");
       std::memset(static_cast<void *>(slot), 0, sizeof(E));
       return code;
     }

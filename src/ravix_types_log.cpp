@@ -16,10 +16,11 @@ using zel::logging::ClogErrorFunction;
 using zel::logging::ClogStreamBuf;
 
 template <class H, ClogErrorFunction<H> Function>
-void write_line(const char *logger, const call_site &site, std::initializer_list<std::string_view> parts) noexcept {
+void write_line(const char *logger, const char *file, const char *function, int line,
+                std::initializer_list<std::string_view> parts) noexcept {
   try {
     using Adapter = ClogAdapter<ClogErrorFunction<H>, Function>;
-    std::unique_ptr<ClogAdapterBase> adapter = std::make_unique<Adapter>(logger, site.file, site.function, site.line);
+    std::unique_ptr<ClogAdapterBase> adapter = std::make_unique<Adapter>(logger, file, function, line);
     ClogStreamBuf stream(std::move(adapter));
     for (const std::string_view part : parts) {
       stream << part;
@@ -31,16 +32,21 @@ void write_line(const char *logger, const call_site &site, std::initializer_list
 
 } // namespace
 
-void log_error(call_site site, std::initializer_list<std::string_view> parts) noexcept {
-  write_line<clogmod, clogmod__err>("ravix", site, parts);
+void line::log_error(const char *file, const char *function, int line,
+                     std::initializer_list<std::string_view> parts) noexcept {
+  write_line<clogmod, clogmod__err>("ravix", file, function, line, parts);
 }
 
-void log_invalid_pointer(call_site site, std::string_view argument) noexcept {
-  log_error(site, {"Invalid pointer '", argument, "'!"});
+void line::log_error(const char *file, const char *function, int line, const char *message) noexcept {
+  write_line<clogmod, clogmod__err>("ravix", file, function, line, {message});
 }
 
-void log_assertion(call_site site, std::string_view expression) noexcept {
-  write_line<clogger, clogger__err>("", site, {"ASSERT: ", expression});
+void line::log_invalid_pointer(const char *file, const char *function, int line, const char *argument) noexcept {
+  log_error(file, function, line, {"Invalid pointer '", argument, "'!"});
+}
+
+void line::log_assertion(const char *file, const char *function, int line, const char *expression) noexcept {
+  write_line<clogger, clogger__err>("", file, function, line, {"ASSERT: ", expression});
 }
 
 } // namespace zel::ravix

@@ -18,13 +18,42 @@ struct call_site {
       : file(source), function(function_name), line(line_number) {}
 };
 
-// Writes the parts as one error-level line of module "ravix". Never throws: a line for which no memory is left is lost.
-[[gnu::cold, gnu::noinline]] void log_error(call_site site, std::initializer_list<std::string_view> parts) noexcept;
+// The functions below write one error-level line. They never throw: a line for which no memory is left is lost.
+//
+// What takes a call site passes it on in pieces, which travel in registers where the structure would be built on the
+// stack of every function that may fail.
+namespace line {
+
+[[gnu::cold, gnu::noinline]] void log_error(const char *file, const char *function, int line,
+                                            const char *message) noexcept;
+[[gnu::cold, gnu::noinline]] void log_error(const char *file, const char *function, int line,
+                                            std::initializer_list<std::string_view> parts) noexcept;
+[[gnu::cold, gnu::noinline]] void log_invalid_pointer(const char *file, const char *function, int line,
+                                                      const char *argument) noexcept;
+[[gnu::cold, gnu::noinline]] void log_assertion(const char *file, const char *function, int line,
+                                                const char *expression) noexcept;
+
+} // namespace line
+
+// A line of module "ravix".
+[[gnu::always_inline]] inline void log_error(const call_site &site, const char *message) noexcept {
+  line::log_error(site.file, site.function, site.line, message);
+}
+
+// The same in several parts.
+[[gnu::always_inline]] inline void log_error(const call_site &site,
+                                             std::initializer_list<std::string_view> parts) noexcept {
+  line::log_error(site.file, site.function, site.line, parts);
+}
 
 // "Invalid pointer '<argument>'!"
-[[gnu::cold, gnu::noinline]] void log_invalid_pointer(call_site site, std::string_view argument) noexcept;
+[[gnu::always_inline]] inline void log_invalid_pointer(const call_site &site, const char *argument) noexcept {
+  line::log_invalid_pointer(site.file, site.function, site.line, argument);
+}
 
 // "ASSERT: <expression>", to the default logger rather than to module "ravix". Execution goes on.
-[[gnu::cold, gnu::noinline]] void log_assertion(call_site site, std::string_view expression) noexcept;
+[[gnu::always_inline]] inline void log_assertion(const call_site &site, const char *expression) noexcept {
+  line::log_assertion(site.file, site.function, site.line, expression);
+}
 
 } // namespace zel::ravix

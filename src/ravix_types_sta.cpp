@@ -17,11 +17,11 @@ ravix_station_history_t *ravix_types_station_history_create(unsigned capacity) {
   auto *history =
       static_cast<ravix_station_history_t *>(slab_dcalloc(1, sizeof(ravix_station_history_t), here, __LINE__));
   if (history == nullptr) {
-    zel::ravix::log_error(here, {"No memory available!"});
+    zel::ravix::log_error(here, "No memory available!");
     return nullptr;
   }
   if (ravix_types_station_history_table_init(&history->table, capacity) != zel::ravix::success) {
-    zel::ravix::log_error(here, {"Init error!"});
+    zel::ravix::log_error(here, "Init error!");
     ravix_types_station_history_free(history);
     return nullptr;
   }

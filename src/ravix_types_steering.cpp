@@ -28,7 +28,7 @@ template <> struct target<ravix_ap_channel_report_t> {
 template <class E> E *allocate(unsigned count, call_site site) {
   auto *array = static_cast<E *>(slab_dcalloc(count, sizeof(E), site.file, site.line));
   if (array == nullptr) {
-    log_error(site, {"No memory available!"});
+    log_error(site, "No memory available!");
   }
   return array;
 }
@@ -57,7 +57,7 @@ template <class T> int init(T *obj, unsigned n, const char *name, void (*clear_t
     return success;
   }
   if (n > target<T>::most) {
-    log_error(site, {"Maximum number of entries reached!"});
+    log_error(site, "Maximum number of entries reached!");
     return invalid_argument;
   }
   auto *&array = target<T>::array(*obj);
@@ -72,7 +72,7 @@ template <class T> int init(T *obj, unsigned n, const char *name, void (*clear_t
 template <class T> T *create(unsigned n, int (*init_target)(T *, unsigned), call_site site = here) {
   T *obj = allocate<T>(1, site);
   if (obj != nullptr && init_target(obj, n) != success) {
-    log_error(site, {"Init error!"});
+    log_error(site, "Init error!");
     release(obj, site);
   }
   return obj;

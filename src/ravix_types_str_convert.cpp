@@ -619,7 +619,7 @@ template <class Output>
   constexpr std::size_t considered = 127;
   const std::string_view text(str_param, strnlen(str_param, considered));
   if (text.empty()) {
-    log_error(site, {"str_param is empty!"});
+    log_error(site, "str_param is empty!");
     return false;
   }
   const std::optional<std::int64_t> value = parse(text, accepted);

@@ -18,7 +18,7 @@ constinit ring_buffer format_buffer;
 constinit std::mutex format_mutex;
 
 void log_too_long() noexcept {
-  log_error({here, "vwrite"}, {"String is too long!"});
+  log_error({here, "vwrite"}, "String is too long!");
 }
 
 // `put` stores as much of a piece as fits into a room, the terminator included, and returns the length of all of it, or

@@ -496,7 +496,7 @@ int ravix_channel_info_check_range(const ravix_channel_list_t *chan_list, const 
     return invalid_pointer(here, "chan_check_fct");
   }
   if (!ravix_channel_info_is_valid(channel_info)) {
-    log_error(here, {"channel_info is not valid!"});
+    log_error(here, "channel_info is not valid!");
     return -EINVAL;
   }
   const uint32_t reach = ravix_channel_width_to_frequency(channel_info->channel_width) / 2;
@@ -553,13 +553,13 @@ int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint
     for (int tries = two_sided ? 2 : 1; tries > 0; --tries, side = !side) {
       const int made = ravix_create_channel_info_auto(primary_freq, width, side, 0, channel_info);
       if (made < 0) {
-        log_error(here, {"Failed to create max clear channel info."});
+        log_error(here, "Failed to create max clear channel info.");
         *channel_info = {};
         return -EINVAL;
       }
       bool clear = false;
       if (ravix_channel_is_clear(chan_list, channel_info, state_mask, &clear) != 0) {
-        log_error(here, {"Clearance detection failed."});
+        log_error(here, "Clearance detection failed.");
         *channel_info = {};
         return RAVIX_FAIL_GENERAL;
       }

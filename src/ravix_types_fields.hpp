@@ -32,14 +32,6 @@
 #include <type_traits>
 #include <utility>
 
-// A comparison is one function, without calls from record to record; where code is to be small, or as it is written,
-// these calls stay.
-#if defined(__OPTIMIZE__) && !defined(__OPTIMIZE_SIZE__)
-#define RAVIX_FLATTEN [[gnu::flatten]]
-#else
-#define RAVIX_FLATTEN
-#endif
-
 namespace zel::ravix {
 
 // Specialised for each record: `fields` and, by RAVIX_OPERATIONS, the record's exported operations.
@@ -124,7 +116,7 @@ template <class R> failure copy_fields(const R &src, R &dest, call_site site) {
 }
 
 // Null checks of a record's copy; success or -22.
-template <class R> int check_copy_arguments(const R *src, const R *dest, call_site site) {
+RAVIX_ALIKE int check_copy_arguments(const void *src, const void *dest, call_site site) {
   if (dest == nullptr) [[unlikely]] {
     log_invalid_pointer(site, "dest");
     return invalid_argument;
@@ -198,6 +190,7 @@ template <class R> int record_copy(const R *src, R *dest, call_site site) {
   return record<R>::copy_into_empty(src, dest);
 }
 
+// One function, without calls from record to record.
 template <class R> RAVIX_FLATTEN int record_compare(const R *a, const R *b) {
   if (a == nullptr || b == nullptr) {
     return (a != nullptr) - (b != nullptr);

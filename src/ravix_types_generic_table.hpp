@@ -1,7 +1,7 @@
 // Bounded tables: a counted array of elements, allocated exactly to its count.
 //
 // Messages carry the source path of the table's family, allocations the path of this header; both carry lines of this
-// header. The function is named by __func__: a captured name of a template would carry its arguments.
+// header. Functions are named by __func__ or by hand: a captured name of a template would carry its arguments.
 #pragma once
 
 #include "ravix_types_generic_simple.hpp"
@@ -41,15 +41,83 @@ template <class T> std::uint32_t elements(const T &table) {
   return table.data != nullptr ? table.count : 0;
 }
 
+// The functions below do what is alike for all tables, and speak in the name of the operation that they are part of.
+
+// Zero-filled elements, or null and a message.
+RAVIX_ALIKE void *allocate_elements(std::uint32_t count, std::size_t size, const char *family) {
+  void *data = slab_dcalloc(count, size, source, __LINE__);
+  if (data == nullptr) [[unlikely]] {
+    log_error({family, "generic_table_init"}, "No memory available!");
+  }
+  return data;
+}
+
+// Null checks of a copy; success or -22. Tests `src` before `dest`, unlike the copy of a record.
+RAVIX_ALIKE int check_copy_arguments(const void *src, const void *dest, const char *family) {
+  if (src == nullptr) [[unlikely]] {
+    log_invalid_pointer({family, "generic_table_copy"}, "src");
+    return invalid_argument;
+  }
+  if (dest == nullptr) [[unlikely]] {
+    log_invalid_pointer({family, "generic_table_copy"}, "dest");
+    return invalid_argument;
+  }
+  return success;
+}
+
+// Null checks of an operation that takes an entry.
+RAVIX_ALIKE bool has_entry_arguments(const void *table, const void *entry, call_site site) {
+  if (table == nullptr) [[unlikely]] {
+    log_invalid_pointer(site, "table");
+    return false;
+  }
+  if (entry == nullptr) [[unlikely]] {
+    log_invalid_pointer(site, "entry");
+    return false;
+  }
+  return true;
+}
+
+// An array with one element more, or null and what to return.
+struct grown_array {
+  void *data;
+  int code;
+};
+
+RAVIX_ALIKE grown_array grow(void *data, std::uint32_t count, std::uint32_t size, const char *family) {
+  constexpr const char *function = "generic_table_add_entry";
+  if (count == UINT32_MAX) [[unlikely]] {
+    log_error({family, function}, "Maximum number of entries reached!");
+    return {nullptr, invalid_argument};
+  }
+  // The device's 32-bit arithmetic on every platform: the sum is tested for a wrap, the product deliberately is not.
+  const std::uint32_t old_size = count * size;
+  const std::uint32_t new_size = old_size + size;
+  if (new_size < old_size) [[unlikely]] {
+    log_error({family, function}, "Overflow would occur!");
+    return {nullptr, invalid_argument};
+  }
+  void *grown = slab_drealloc(data, data != nullptr ? new_size : size, source, __LINE__);
+  if (grown == nullptr) [[unlikely]] {
+    log_error({family, function}, "No memory available!");
+    return {nullptr, out_of_memory};
+  }
+  return {grown, success};
+}
+
 } // namespace table
 
 template <class T> void generic_table_clear(T *table) {
   if (table == nullptr || table->data == nullptr) {
     return;
   }
-  if constexpr (element<element_of<T>>::clear_before_release) {
+  using E = element_of<T>;
+  if constexpr (element<E>::clear_before_release && element<E>::is_flat) {
+    // Nothing of them need stay; their empty values are of no use any more.
+    std::memset(static_cast<void *>(table->data), 0, table->count * sizeof(E));
+  } else if constexpr (element<E>::clear_before_release) {
     for (std::uint32_t i = 0; i < table->count; ++i) {
-      element<element_of<T>>::clear(&table->data[i]);
+      element<E>::clear(&table->data[i]);
     }
   }
   table->count = 0;
@@ -70,9 +138,8 @@ int generic_table_init(T *table, unsigned count, const char *family) {
     return success;
   }
   using E = element_of<T>;
-  table->data = static_cast<E *>(slab_dcalloc(count, sizeof(E), table::source, __LINE__));
+  table->data = static_cast<E *>(table::allocate_elements(count, sizeof(E), family));
   if (table->data == nullptr) [[unlikely]] {
-    log_error({family, __func__}, "No memory available!");
     return out_of_memory;
   }
   table->count = count;
@@ -99,15 +166,9 @@ template <class T> T *generic_table_create(unsigned count, const char *family) {
   return table;
 }
 
-// Tests `src` before `dest`, unlike the copy of a record.
 template <class T> int generic_table_copy(const T *src, T *dest, const char *family) {
-  if (src == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "src");
-    return invalid_argument;
-  }
-  if (dest == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "dest");
-    return invalid_argument;
+  if (const int code = table::check_copy_arguments(src, dest, family); code != success) [[unlikely]] {
+    return code;
   }
   if (src == dest) {
     return success;
@@ -123,8 +184,10 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
       std::memcpy(dest->data, src->data, count * sizeof(E));
     }
   } else {
-    for (std::uint32_t i = 0; i < count; ++i) {
-      if (const int code = element<E>::copy(&src->data[i], &dest->data[i]); code != success) [[unlikely]] {
+    const E *from = src->data;
+    E *to = dest->data;
+    for (const E *end = from + count; from != end; ++from, ++to) {
+      if (const int code = element<E>::copy(from, to); code != success) [[unlikely]] {
         log_error({family, __func__}, "Copy error!");
         generic_table_clear(dest);
         return code;
@@ -134,38 +197,20 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   return success;
 }
 
-template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, const char *family) {
-  if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "table");
-    return invalid_argument;
-  }
-  if (entry == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "entry");
-    return invalid_argument;
-  }
-  if (table->count == UINT32_MAX) [[unlikely]] {
-    log_error({family, __func__}, "Maximum number of entries reached!");
+template <class T> RAVIX_ALIKE int generic_table_add_entry(T *table, entry_of<T> *entry, const char *family) {
+  if (!table::has_entry_arguments(table, entry, {family, __func__})) [[unlikely]] {
     return invalid_argument;
   }
   using E = element_of<T>;
-  // The device's 32-bit arithmetic on every platform: the sum is tested for a wrap, the product deliberately is not.
-  const std::uint32_t old_size = table->count * static_cast<std::uint32_t>(sizeof(E));
-  const std::uint32_t new_size = old_size + static_cast<std::uint32_t>(sizeof(E));
-  if (new_size < old_size) [[unlikely]] {
-    log_error({family, __func__}, "Overflow would occur!");
-    return invalid_argument;
-  }
   const std::uint32_t count = table::elements(*table);
-  // An entry of the table itself moves with the array.
   const auto offset = reinterpret_cast<std::uintptr_t>(entry) - reinterpret_cast<std::uintptr_t>(table->data);
-  const bool entry_is_own = table->data != nullptr && offset < old_size;
-  auto *grown =
-      static_cast<E *>(slab_drealloc(table->data, count != 0 ? new_size : sizeof(E), table::source, __LINE__));
+  const table::grown_array array = table::grow(table->data, table->count, sizeof(E), family);
+  auto *grown = static_cast<E *>(array.data);
   if (grown == nullptr) [[unlikely]] {
-    log_error({family, __func__}, "No memory available!");
-    return out_of_memory;
+    return array.code;
   }
-  if (entry_is_own) {
+  // An entry of the table itself has moved with the array.
+  if (offset < count * sizeof(E)) [[unlikely]] {
     entry = grown + offset / sizeof(E);
   }
   table->data = grown;
@@ -188,12 +233,7 @@ template <class T> int generic_table_add_entry(T *table, entry_of<T> *entry, con
 }
 
 template <class T> bool generic_table_contains_entry(const T *table, entry_of<T> *entry, const char *family) {
-  if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "table");
-    return false;
-  }
-  if (entry == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "entry");
+  if (!table::has_entry_arguments(table, entry, {family, __func__})) [[unlikely]] {
     return false;
   }
   using E = element_of<T>;

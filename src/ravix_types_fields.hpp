@@ -232,15 +232,27 @@ template <has_record R> struct element<R> {
 
 // ---- octets in words
 
-// All bits that are set in any word of N octets, each word being what `word_at` makes of the octets from an offset on.
-// The last word overlaps the one before it.
-template <std::size_t N, class WordAt> [[gnu::always_inline]] inline std::uintptr_t bits_in_words(WordAt word_at) {
-  using word = std::conditional_t<N >= sizeof(std::uintptr_t), std::uintptr_t,
-                                  std::conditional_t<N >= sizeof(std::uint32_t), std::uint32_t, std::uint8_t>>;
-  return [&]<std::size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
-    return (static_cast<std::uintptr_t>(word_at(std::min(i * sizeof(word), N - sizeof(word)), word{})) | ...);
+// A word of 16 octets, for which 64-bit processors have instructions.
+using wide_word [[gnu::vector_size(16)]] = std::uint64_t;
+
+template <class Word> [[gnu::always_inline]] inline bool any_bit(const Word &word) {
+  if constexpr (sizeof word == sizeof(wide_word)) {
+    return (word[0] | word[1]) != 0;
+  } else {
+    return word != 0;
   }
-  (std::make_index_sequence<(N + sizeof(word) - 1) / sizeof(word)>{});
+}
+
+// Whether any bit is set in any word of N octets, each word being what `word_at` makes of the octets from an offset on.
+// The last word overlaps the one before it.
+template <std::size_t N, class WordAt> [[gnu::always_inline]] inline bool any_bit_in_words(WordAt word_at) {
+  using word = std::conditional_t<
+      N >= sizeof(wide_word) && sizeof(std::uintptr_t) == sizeof(std::uint64_t), wide_word,
+      std::conditional_t<N >= sizeof(std::uintptr_t), std::uintptr_t,
+                         std::conditional_t<N >= sizeof(std::uint32_t), std::uint32_t, std::uint8_t>>>;
+  return any_bit([&]<std::size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+    return (word_at(std::min(i * sizeof(word), N - sizeof(word)), word{}) | ...);
+  }(std::make_index_sequence<(N + sizeof(word) - 1) / sizeof(word)>{}));
 }
 
 template <class Word> [[gnu::always_inline]] inline Word load_word(const void *octets, std::size_t at, Word word) {
@@ -255,8 +267,8 @@ template <std::size_t N> struct octet_masks {
     std::fill_n(zeros_ones_zeros.begin() + N, N, std::uint8_t{UINT8_MAX});
     return zeros_ones_zeros;
   }();
-  static const std::uint8_t *past(std::size_t used) { return &octets[N - used]; }
-  static const std::uint8_t *first(std::size_t used) { return &octets[2 * N - used]; }
+  static const std::uint8_t *past(std::size_t used) { return octets.data() + N - used; }
+  static const std::uint8_t *first(std::size_t used) { return octets.data() + 2 * N - used; }
 };
 
 // Tells whether the octets from `used` on are 0, as in every record that was a copy before. Reading them in words under
@@ -264,25 +276,30 @@ template <std::size_t N> struct octet_masks {
 // from.
 template <std::size_t N> [[gnu::always_inline]] inline bool rest_is_zero(const std::uint8_t *octets, std::size_t used) {
   const std::uint8_t *rest = octet_masks<N>::past(used);
-  return bits_in_words<N>(
-             [=](std::size_t at, auto word) { return load_word(octets, at, word) & load_word(rest, at, word); }) == 0;
+  return !any_bit_in_words<N>(
+      [=](std::size_t at, auto word) { return load_word(octets, at, word) & load_word(rest, at, word); });
+}
+
+// Sets an array's octets from `from` to its end `to` to 0. A call: inlined, it becomes a ladder of tests and stores.
+[[gnu::noinline]] inline void empty_octets(void *array, std::size_t from, std::size_t to) {
+  std::memset(static_cast<std::uint8_t *>(array) + from, 0, to - from);
 }
 
 // The first `used` of N octets, compared as memcmp does. Most are alike, and that takes a few instructions to find out.
 template <std::size_t N>
 [[gnu::always_inline]] inline int compare_octets(const std::uint8_t *a, const std::uint8_t *b, std::size_t used) {
   const std::uint8_t *counted = octet_masks<N>::first(used);
-  const bool same = bits_in_words<N>([=](std::size_t at, auto word) {
-                      return (load_word(a, at, word) ^ load_word(b, at, word)) & load_word(counted, at, word);
-                    }) == 0;
-  return same ? 0 : std::memcmp(a, b, used);
+  const bool differ = any_bit_in_words<N>([=](std::size_t at, auto word) {
+    return (load_word(a, at, word) ^ load_word(b, at, word)) & load_word(counted, at, word);
+  });
+  return differ ? std::memcmp(a, b, used) : 0;
 }
 
 template <std::size_t N>
 [[gnu::always_inline]] inline int compare_octets(const std::uint8_t *a, const std::uint8_t *b) {
-  const bool same =
-      bits_in_words<N>([=](std::size_t at, auto word) { return load_word(a, at, word) ^ load_word(b, at, word); }) == 0;
-  return same ? 0 : std::memcmp(a, b, N);
+  const bool differ =
+      any_bit_in_words<N>([=](std::size_t at, auto word) { return load_word(a, at, word) ^ load_word(b, at, word); });
+  return differ ? std::memcmp(a, b, N) : 0;
 }
 
 // ---- kinds of field
@@ -383,7 +400,7 @@ template <class R, std::size_t N> struct counted_bytes : plain_kind {
   }
   void settle(const R &src, R &dest) const {
     if (!rest_is_zero<N>(src.*octets, src.*length)) [[unlikely]] {
-      std::memset(&(dest.*octets)[src.*length], 0, N - src.*length);
+      empty_octets(dest.*octets, src.*length, N);
     }
   }
   int compare(const R &a, const R &b) const {
@@ -404,14 +421,10 @@ template <class R, std::size_t N> struct bounded_text : plain_kind {
   void clear(R &r, call_site /*site*/) const { std::memset(r.*member, 0, N); }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
   void transfer(const R &src, R &dest) const {
-    const std::string_view used = view(src).substr(0, N - 1);
-    std::memcpy(dest.*member, used.data(), used.size());
-    std::memset(&(dest.*member)[used.size()], 0, N - used.size());
+    std::memcpy(dest.*member, src.*member, N);
+    settle(src, dest);
   }
-  void settle(const R &src, R &dest) const {
-    const std::size_t used = std::min(view(src).size(), N - 1);
-    std::memset(&(dest.*member)[used], 0, N - used);
-  }
+  void settle(const R &src, R &dest) const { empty_octets(dest.*member, std::min(view(src).size(), N - 1), N); }
   int compare(const R &a, const R &b) const { return std::strncmp(a.*member, b.*member, N); }
   template <class Out> void print(Out &out, const R &r) const { out.text(view(r)); }
 
@@ -662,14 +675,14 @@ template <class Kind> struct secret : Kind {
     zel::ravix::generic_free<T>(obj, NAME##_clear);                                                                    \
   }
 #define RAVIX_RECORD_CLEAR(NAME, T)                                                                                    \
-  void NAME##_clear(T *obj) {                                                                                          \
+  RAVIX_FLATTEN void NAME##_clear(T *obj) {                                                                            \
     zel::ravix::record_clear(obj, here);                                                                               \
   }
 #define RAVIX_RECORD_COPY(NAME, T)                                                                                     \
   int NAME##_copy(const T *src, T *dest) {                                                                             \
     return zel::ravix::record_copy(src, dest, here);                                                                   \
   }                                                                                                                    \
-  int zel::ravix::record<T>::copy_into_empty(const T *src, T *dest) {                                                  \
+  RAVIX_FLATTEN int zel::ravix::record<T>::copy_into_empty(const T *src, T *dest) {                                    \
     return record_copy_into_empty(*src, *dest, {here, #NAME "_copy"});                                                 \
   }
 #define RAVIX_RECORD_COMPARE(NAME, T)                                                                                  \

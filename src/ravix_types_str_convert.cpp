@@ -568,7 +568,8 @@ std::optional<std::int64_t> find_value(const value_list &names, std::string_view
   }
   std::transform(name.begin(), name.end(), wanted.begin(), upper);
   for (std::size_t i = 0; i < names.count; ++i) {
-    if (names.length(i) == name.size() && std::memcmp(names.name(i), wanted.data(), name.size()) == 0) {
+    if (names.length(i) == name.size() && names.name(i)[0] == wanted[0] &&
+        std::memcmp(names.name(i), wanted.data(), name.size()) == 0) {
       return names.values[i];
     }
   }

@@ -53,7 +53,8 @@ void register_radio() {
   require_same(ravix_frequency_is_primary, plain_primary);
   const std::vector<std::uint32_t> frequencies = mixed_frequencies();
   row("channel", frequencies, way{"ravix", over(ravix_frequency_to_channel)}, way{"if_chain", over(plain_channel)});
-  row("band", frequencies, way{"ravix", over(ravix_frequency_to_radio_band)}, way{"if_chain", over(plain_band)});
+  row("band", frequencies, way{"ravix", over(ravix_frequency_to_radio_band)}, way{"if_chain", over(plain_band)},
+      way{"call", over(plain_call)});
   row("primary", frequencies, way{"ravix", over(ravix_frequency_is_primary)}, way{"if_chain", over(plain_primary)},
       way{"linear_scan", over([all = all_primaries()](std::uint32_t khz) {
             return std::find(all.begin(), all.end(), khz) != all.end();

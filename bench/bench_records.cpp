@@ -2,6 +2,7 @@
 // hand; tables that grow; comparisons.
 #include "bench.hpp"
 #include "inputs.hpp"
+#include "plain_records.hpp"
 
 #include "scan_results.pb.h"
 #include "zelcsock/slab.h"
@@ -112,6 +113,31 @@ void free_role(ravix_cfg_role_static_t *role) {
   std::free(role);
 }
 
+// The same with what a role owes besides: nothing past the end of a text or key, no secret in memory that is released.
+void empty_past(auto &array, std::size_t used) {
+  std::memset(&array[used], 0, sizeof array - used);
+}
+
+ravix_cfg_role_static_t *copy_tidy_role(const ravix_cfg_role_static_t &source) {
+  ravix_cfg_role_static_t *role = copy_role(source);
+  empty_past(role->if_name, strnlen(role->if_name, sizeof role->if_name - 1));
+  empty_past(role->security.key.key, role->security.key.len);
+  empty_past(role->config_ap->ssid.ssid, role->config_ap->ssid.len);
+  for (std::uint32_t i = 0; i < role->security.auth_servers.count; ++i) {
+    auto &secret = role->security.auth_servers.data[i].secret;
+    empty_past(secret, strnlen(secret, sizeof secret - 1));
+  }
+  return role;
+}
+
+void free_tidy_role(ravix_cfg_role_static_t *role) {
+  auto &servers = role->security.auth_servers;
+  std::memset(&role->security.key, 0, sizeof role->security.key);
+  std::memset(servers.data, 0, servers.count * sizeof *servers.data);
+  keep(role);
+  free_role(role);
+}
+
 // All blocks of the role as bytes.
 int compare_blocks(const ravix_cfg_role_static_t &a, const ravix_cfg_role_static_t &b) {
   const auto &a_macs = a.config_ap->access_control.macs_filtered;
@@ -212,19 +238,26 @@ void register_records() {
             keep(copy);
             ravix_cfg_role_free(copy);
           }},
-      way{"by_hand", [=] {
+      way{"by_hand",
+          [=] {
             ravix_cfg_role_static_t *copy = copy_role(*role);
             keep(copy);
             free_role(copy);
+          }},
+      way{"by_hand_tidy", [=] {
+            ravix_cfg_role_static_t *copy = copy_tidy_role(*role);
+            keep(copy);
+            free_tidy_role(copy);
           }});
   require(ravix_cfg_role_compare(role.get(), twin.get()) == 0, "a role differs from its copy");
   row("compare_role", way{"ravix", [=] { benchmark::DoNotOptimize(ravix_cfg_role_compare(role.get(), twin.get())); }},
       way{"memcmp", [=] { benchmark::DoNotOptimize(compare_blocks(*role, *twin)); }},
       way{"by_field", [=] { benchmark::DoNotOptimize(fields_differ(*role, *twin)); }});
 
-  const auto added = [](const std::string &name, const auto &entry, auto add, auto clear) {
+  const auto added = [](const std::string &name, const auto &entry, auto add, auto plain, auto clear) {
     for (const std::uint32_t count : {1000U, 100000U}) {
       row(name + std::to_string(count), way{"ravix", [=] { add_entries(count, entry, add, clear); }},
+          way{"function", [=] { add_entries(count, entry, plain, clear); }},
           way{"realloc",
               [=] { grow_array(count, entry, [](void *data, std::size_t size) { return std::realloc(data, size); }); }},
           way{"slab", [=] {
@@ -233,9 +266,10 @@ void register_records() {
               }});
     }
   };
-  added("add_frequencies_", std::uint32_t{5180000}, ravix_types_frequency_table_add_entry,
+  added("add_frequencies_", std::uint32_t{5180000}, ravix_types_frequency_table_add_entry, plain_add_frequency,
         ravix_types_frequency_table_clear);
-  added("add_networks_", scan_entry(7), ravix_types_scan_table_add_entry, ravix_types_scan_table_clear);
+  added("add_networks_", scan_entry(7), ravix_types_scan_table_add_entry, plain_add_network,
+        ravix_types_scan_table_clear);
 }
 
 } // namespace bench

@@ -64,4 +64,8 @@ bool plain_primary(std::uint32_t khz) {
   return false;
 }
 
+std::uint8_t plain_call(std::uint32_t khz) {
+  return static_cast<std::uint8_t>(khz);
+}
+
 } // namespace bench

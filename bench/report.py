@@ -37,7 +37,7 @@ def targets(path):
 
 
 def judge(times, row, peer, reach):
-    """Ours, the peer's, what is judged as text, how far beyond the target (1: just met)."""
+    """Ours, the peer's, their ratio, how far beyond the target (1: just met; none for a floor, which shows only)."""
     if reach.startswith("per "):
         per_element = [times[name] / int(name.rsplit("/", 1)[1]) for name in (row, peer)]
         limit = float(reach.split()[1])
@@ -46,6 +46,8 @@ def judge(times, row, peer, reach):
     if reach.endswith(" ns"):
         return ours, None, None, float(reach.split()[0]) / ours
     theirs = times[f"{row}/{peer}"]
+    if reach == "floor":
+        return ours, theirs, ours / theirs, None
     if reach.startswith("at most "):
         return ours, theirs, ours / theirs, float(reach.split()[2]) * theirs / ours
     return ours, theirs, theirs / ours, theirs / ours / float(reach.split()[0])
@@ -67,10 +69,12 @@ def table(times, wanted):
         against = peer if "/" not in peer else "59 of them"
         print(
             f"{work:<32} {duration(ours):>9} {duration(theirs) if theirs else '':>9}  {against.replace('-', ''):<12} "
-            f"{f'{ratio:.3g}{kind}' if ratio else '':>6}  {reach:<12} {'met' if margin >= 1 else 'NOT MET'}"
+            f"{f'{ratio:.3g}{kind}' if ratio else '':>6}  {reach:<12} "
+            f"{'' if margin is None else 'met' if margin >= 1 else 'NOT MET'}".rstrip()
         )
         last = work or last
-        judged.append((f"{last} / {against}" if against != "-" else last, margin))
+        if margin is not None:
+            judged.append((f"{last} / {against}" if against != "-" else last, margin))
     met = sum(margin >= 1 for _, margin in judged)
     print(f"{met} of {len(judged)} targets met")
     return judged

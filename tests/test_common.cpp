@@ -6,10 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <map>
 #include <sstream>
 #include <string>
 
@@ -20,17 +20,18 @@ int sign(int order) {
   return (order > 0) - (order < 0);
 }
 
-template <class R, std::size_t N> void expect_ended(char (R::*text)[N]) {
+template <class R, std::size_t N> void expect_ended(const zel::ravix::bounded_text<R, N> &field) {
   for (const std::size_t length : {std::size_t{0}, N - 2, N - 1, N}) {
     harness::sample<R> src(1);
     harness::sample<R> dest(2);
-    std::memset(src.value.*text, 0, N);
-    (src.value.*text)[N - 1] = 'x'; // behind the terminator of shorter ones
-    std::memset(src.value.*text, 'x', length);
-    std::memset(dest.value.*text, '#', N);
+    char(&text)[N] = src.value.*field.member;
+    std::memset(text, 0, N);
+    text[N - 1] = 'x'; // behind the terminator of shorter ones
+    std::memset(text, 'x', length);
+    std::memset(dest.value.*field.member, '#', N);
     EXPECT_EQ(record<R>::copy(&src.value, &dest.value), 0);
-    const std::size_t kept = length < N - 1 ? length : N - 1;
-    EXPECT_EQ(std::string(dest.value.*text, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
+    const std::size_t kept = std::min(length, N - 1);
+    EXPECT_EQ(std::string(dest.value.*field.member, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
     if constexpr (requires { record<R>::compare; }) {
       EXPECT_EQ(sign(record<R>::compare(&src.value, &dest.value)), length >= N - 1 ? 1 : 0) << "the last one counts";
     }
@@ -38,64 +39,42 @@ template <class R, std::size_t N> void expect_ended(char (R::*text)[N]) {
 }
 
 TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
-  expect_ended(&ravix_cfg_radio_static_t::if_name);
-  expect_ended(&ravix_cfg_role_static_t::if_name);
-  expect_ended(&ravix_cfg_radius_server_t::secret);
-  expect_ended(&radiod_hal_event_hw_init_t::error_message);
-  expect_ended(&radiod_hal_event_hw_deinit_t::error_message);
-  expect_ended(&radiod_hal_event_set_config_t::error_message);
-  expect_ended(&radiod_hal_event_check_config_t::error_message);
-  expect_ended(&radiod_hal_event_sanity_t::error_message);
+  int texts = 0;
+  harness::for_all_records([&]<class R>() {
+    zel::ravix::for_each_field<R>([&](const auto &field) {
+      if constexpr (requires { expect_ended(field); }) {
+        expect_ended(field);
+        ++texts;
+      }
+    });
+  });
+  EXPECT_GE(texts, 8);
 }
 
-// Values in words.
-template <class T> void read(std::istringstream words, T &value) { // a key or an SSID
-  unsigned length = 0;
-  std::string text;
-  words >> length >> text;
-  value.len = static_cast<std::uint8_t>(length);
-  std::memcpy(reinterpret_cast<char *>(&value) + 1, text.data(), text.size());
-}
-void read(std::istringstream words, ravix_ip_addr_t &value) {
-  unsigned number = 0;
-  words >> number;
-  value.version = static_cast<std::uint8_t>(number);
-  for (std::size_t i = 0; words >> number; ++i) {
-    value.addr[i] = static_cast<std::uint8_t>(number);
-  }
-}
-void read(std::istringstream words, ravix_frequency_table_t &value) {
-  for (std::uint32_t entry = 0; words >> entry;) {
-    ravix_types_frequency_table_add_entry(&value, &entry);
-  }
-}
-void read(std::istringstream words, ravix_string_table_t &value) {
-  for (std::string word; words >> word;) {
-    const char *entry = word != "-" ? word.c_str() : nullptr;
-    ravix_types_string_table_add_entry(&value, &entry);
-  }
-}
-
-template <class T> std::string orders(const std::string &left, const std::string &right) {
-  harness::sample<T> a;
-  harness::sample<T> b;
-  read(std::istringstream(left), a.value);
-  read(std::istringstream(right), b.value);
-  return std::to_string(sign(record<T>::compare(&a.value, &b.value))) + ", " +
-         std::to_string(sign(record<T>::compare(&b.value, &a.value)));
+// Values as their octets.
+template <class T> std::string orders(std::istream &left, std::istream &right) {
+  T a{};
+  T b{};
+  const auto read = [](std::istream &words, T &value) {
+    auto *octet = reinterpret_cast<std::uint8_t *>(&value);
+    for (unsigned number = 0; words >> number; ++octet) {
+      *octet = static_cast<std::uint8_t>(number);
+    }
+  };
+  read(left, a);
+  read(right, b);
+  return std::to_string(sign(record<T>::compare(&a, &b))) + ", " + std::to_string(sign(record<T>::compare(&b, &a)));
 }
 
 TEST(CommonValues, CompareAsRecorded) {
-  const std::map<std::string, std::string (*)(const std::string &, const std::string &)> kinds = {
-      {"key", orders<ravix_key_t>},
-      {"ssid", orders<ravix_ssid_t>},
-      {"ip", orders<ravix_ip_addr_t>},
-      {"frequencies", orders<ravix_frequency_table_t>},
-      {"strings", orders<ravix_string_table_t>}};
   harness::expect_answers("common_orders", [&](const std::string &call) {
-    const std::size_t first = call.find(' ');
     const std::size_t bar = call.find('|');
-    return kinds.at(call.substr(0, first))(call.substr(first, bar - first), call.substr(bar + 1));
+    std::istringstream left(call.substr(0, bar)), right(call.substr(bar + 1));
+    std::string kind;
+    left >> kind;
+    return kind == "key"    ? orders<ravix_key_t>(left, right)
+           : kind == "ssid" ? orders<ravix_ssid_t>(left, right)
+                            : orders<ravix_ip_addr_t>(left, right);
   });
 }
 
@@ -103,45 +82,39 @@ TEST(CommonValues, TlvsCompareByTheirReferences) {
   constexpr std::uint8_t length = sizeof(void *); // the first octets of two references may agree
   std::uint8_t octets[length] = {1, 2, 3};
   std::uint8_t same[length] = {1, 2, 3};
-  const ravix_tlv_t a{1, length, octets};
-  const auto order = [&](const ravix_tlv_t &b) {
-    const int forth = sign(ravix_types_tlv_compare(&a, &b));
-    EXPECT_EQ(forth, -sign(ravix_types_tlv_compare(&b, &a)));
-    return forth;
-  };
-  EXPECT_EQ(order({1, length, octets}), 0);
-  EXPECT_NE(order({1, length, same}), 0);
-  EXPECT_EQ(order({2, 0, nullptr}), -1);
-  EXPECT_EQ(order({1, 2, octets}), 1);
-  EXPECT_EQ(order({1, length, nullptr}), 1);
-  const ravix_tlv_t hollow{1, length, nullptr};
-  EXPECT_EQ(ravix_types_tlv_compare(&hollow, &hollow), 0);
-  const ravix_tlv_t longest{1, 255, octets}; // more octets than a reference has
-  EXPECT_EQ(ravix_types_tlv_compare(&longest, &longest), 0);
+  const ravix_tlv_t a{1, length, octets}, hollow{1, length, nullptr}, longest{1, 255, octets};
+  const auto order = [](const ravix_tlv_t &x, const ravix_tlv_t &y) { return sign(ravix_types_tlv_compare(&x, &y)); };
+  EXPECT_EQ(order(a, {1, length, octets}), 0);
+  EXPECT_NE(order(a, {1, length, same}), 0);
+  EXPECT_EQ(order(a, {2, 0, nullptr}), -1);
+  EXPECT_EQ(order(a, {1, 2, octets}), 1);
+  EXPECT_EQ(order(a, hollow), 1);
+  EXPECT_EQ(order(hollow, hollow), 0);
+  EXPECT_EQ(order(longest, longest), 0) << "more octets than a reference has";
   harness::sample<ravix_tlv_t> copy(1);
-  EXPECT_EQ(ravix_types_tlv_copy(&hollow, &copy.value), 0); // a count without octets
-  EXPECT_EQ(copy.value.len, 0);
+  EXPECT_EQ(ravix_types_tlv_copy(&hollow, &copy.value), 0);
+  EXPECT_EQ(copy.value.len, 0) << "a count without octets";
 }
 
-TEST(CommonTables, FindAnAddressByAllItsOctets) {
-  ravix_mac_t addresses[] = {{2, 0, 0, 0, 0, 1}, {2, 0, 0, 0, 0, 2}};
-  const ravix_mac_table_t table{2, addresses};
-  for (std::size_t i = 0; i < RAVIX_MAC_LEN; ++i) {
-    ravix_mac_t wanted = {2, 0, 0, 0, 0, 2};
-    EXPECT_TRUE(ravix_types_mac_table_contains_entry(&table, &wanted));
-    wanted[i] = static_cast<std::uint8_t>(~wanted[i]);
-    EXPECT_FALSE(ravix_types_mac_table_contains_entry(&table, &wanted));
-  }
-}
-
-TEST(CommonTables, FindNullTextsAsTexts) {
-  harness::sample<ravix_string_table_t> table;
-  const char *null = nullptr;
-  const char *text = "text";
-  for (const char **entry : {&null, &text}) {
-    EXPECT_FALSE(ravix_types_string_table_contains_entry(&table.value, entry));
-    EXPECT_EQ(ravix_types_string_table_add_entry(&table.value, entry), 0);
-    EXPECT_TRUE(ravix_types_string_table_contains_entry(&table.value, entry));
+// Entries that begin as those of the table, to any extent.
+TEST(CommonTables, FindWhatIsEqualToAnEntry) {
+  for (const harness::record_type *type : harness::record_types()) {
+    if (type->contains_entry == nullptr || type->compares_references) {
+      continue;
+    }
+    harness::randomness random(1);
+    const harness::any_sample table(*type);
+    type->fill(table, random);
+    for (std::size_t same = 0; same <= random.choices(); ++same) {
+      const harness::any_sample other(*type, harness::randomness(1, same));
+      for (std::uint32_t i = 0; i < *type->count(other); ++i) {
+        bool is_there = false;
+        for (std::uint32_t k = 0; k < *type->count(table); ++k) {
+          is_there = is_there || type->element->compare(type->at(table, k), type->at(other, i), false) == 0;
+        }
+        EXPECT_EQ(type->contains_entry(table, type->at(other, i)), is_there) << type->name << ", " << same;
+      }
+    }
   }
 }
 

@@ -85,7 +85,7 @@ TEST(Threads, WorkOnRecordsOfTheirOwnWhileAllocationsFailAndLinesAreLogged) {
   EXPECT_EQ(live_blocks, 0);
 }
 
-// Lines of every kind: of the frame, the tables, the parsers, the validator and the assertions.
+// Lines of every kind: of the frame, the tables, the parsers, the validator and the formatters.
 TEST(Threads, ASinkMayUseTheLibraryWhateverLogs) {
   clog_host_set_sink(busy_sink, nullptr);
   lines = 0;
@@ -94,10 +94,12 @@ TEST(Threads, ASinkMayUseTheLibraryWhateverLogs) {
   std::uint8_t mac[RAVIX_MAC_LEN];
   EXPECT_EQ(ravix_cfg_auto_update_rule_copy(&rule, &dest), -22);
   EXPECT_EQ(ravix_types_id_table_add_entry(nullptr, nullptr), -22);
-  EXPECT_FALSE(ravix_mac_from_str("no address", mac));
+  EXPECT_FALSE(ravix_mac_from_str(nullptr, mac));
+  EXPECT_FALSE(ravix_validate_channel_list(nullptr, nullptr));
   EXPECT_FALSE(ravix_types_mac_table_contains_entry(nullptr, &mac));
+  EXPECT_STREQ(ravix_str_mac(nullptr), "");
   clog_host_set_sink(nullptr, nullptr);
-  EXPECT_GE(lines, 2 * 4);
+  EXPECT_GE(lines, 2 * 6);
 }
 
 } // namespace

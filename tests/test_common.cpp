@@ -147,24 +147,19 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
     ASSERT_EQ(ravix_types_scan_table_init(&networks, 2), 0);
     networks.data[1].ssid.len = 33;
     add("a response with an SSID too long", ravix_types_get_scan_results_response_copy(&response.value, &dest.value));
-    EXPECT_EQ(harness::difference(dest.value, harness::sample<ravix_get_scan_results_response_t>().value), "");
     add("its table to itself", ravix_types_scan_table_copy(&networks, &networks));
     add("its table", ravix_types_scan_table_copy(&networks, &table.value));
     add("its entry added to another", ravix_types_scan_table_add_entry(&table.value, &networks.data[1]));
-    EXPECT_EQ(table.value.count, 0U);
   }
-  const auto add_lengths = [&]<class T>(harness::sample<T> source, std::uint8_t most) {
-    harness::sample<T> dest(1);
-    const harness::sample<T> before(1);
-    source.value.len = static_cast<std::uint8_t>(most + 1);
-    add("too long", record<T>::copy(&source.value, &dest.value));
-    EXPECT_EQ(harness::difference(dest.value, before.value), "");
-    source.value.len = most;
-    add("as long as can be", record<T>::copy(&source.value, &dest.value));
-    EXPECT_EQ(harness::difference(dest.value, source.value), "");
+  const auto add_lengths = [&]<class T>(T source, std::uint8_t most) {
+    harness::sample<T> dest;
+    source.len = static_cast<std::uint8_t>(most + 1);
+    add("too long", record<T>::copy(&source, &dest.value));
+    source.len = most;
+    add("as long as can be", record<T>::copy(&source, &dest.value));
   };
-  add_lengths(harness::sample<ravix_key_t>(2), RAVIX_MAX_KEY_LEN);
-  add_lengths(harness::sample<ravix_ssid_t>(2), RAVIX_MAX_SSID_LEN);
+  add_lengths(ravix_key_t{}, RAVIX_MAX_KEY_LEN);
+  add_lengths(ravix_ssid_t{}, RAVIX_MAX_SSID_LEN);
   const ravix_key_t key{};
   heap.fail_from(1);
   add("no memory for a key", ravix_types_key_create() != nullptr);
@@ -172,6 +167,11 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
   add("no memory for a table", ravix_types_ssid_table_create(0) != nullptr);
   heap.fail_only(2);
   add("no memory for an array", ravix_types_ssid_table_create(1) != nullptr);
+  const char *const text = "text";
+  ravix_string_table_t texts{};
+  heap.fail_only(2);
+  add("no memory for a text", ravix_types_string_table_add_entry(&texts, &text));
+  ravix_types_string_table_clear(&texts);
   golden.expect("common_failures");
   EXPECT_TRUE(heap.requested().contains({"src/ravix_types_generic_simple", 35}));
   EXPECT_TRUE(heap.requested().contains({"src/ravix_types_generic_simple", 68}));

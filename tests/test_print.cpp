@@ -241,20 +241,6 @@ TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
                                             {"incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME, nullptr)},
                                             {"renamed incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME, nullptr, 1)},
                                             {"odd role", role(4, odd_config)}});
-
-  ravix_cfg_owe_transition_t partner{};
-  ravix_cfg_role_dynamic_t linked{};
-  linked.owe_transition = &partner;
-  add_all<ravix_cfg_role_dynamic_t>(golden, {{"single", {}}, {"linked", linked}});
-
-  // A server is the same wherever it stands; one of no address is not even the same as itself.
-  const sample<ravix_cfg_radius_server_t> server(1, variety::tame);
-  ravix_cfg_radius_server_t elsewhere = server.value, changed = server.value, no_address = server.value;
-  elsewhere.index = -9;
-  changed.port = 65535;
-  no_address.addr.version = 0;
-  add_all<ravix_cfg_radius_server_t>(
-      golden, {{"server", server.value}, {"elsewhere", elsewhere}, {"changed", changed}, {"no address", no_address}});
   golden.expect("diff_special");
 }
 

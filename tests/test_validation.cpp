@@ -128,33 +128,30 @@ TEST(ChannelRulesPage, SaysWhatTheValidatorSays) {
   EXPECT_EQ(runs.size(), 1 + 16U); // the list that breaks nothing, and the rules
 }
 
-// Every state with and without radar detection, judged by the table on the page.
+// What is said of channels that have every flag, with and without radar detection, against the table on the page.
 TEST(StateFlags, ExcludeEachOtherAsThePageSays) {
-  std::map<uint32_t, uint32_t> excluded;
-  uint32_t dfs_only = RAVIX_CHANNEL_STATE_DFS_RESERVED;
+  harness::captured_log log;
+  violated(channels{{5260000, 20, RAVIX_CHANNEL_CAP_HT20 | RAVIX_CHANNEL_CAP_DFS, 0x7FF, 0}});
+  const std::string told_of_radar = harness::logged(log);
+  violated(channels{{5745000, 20, RAVIX_CHANNEL_CAP_HT20, 0x7FF, 0}});
+  const std::string told = harness::logged(log);
+  std::size_t rows = 0;
   for (const std::string &line : rules_page) {
     lines columns = split(line, '|');
     if (!line.starts_with("| ") || columns.size() != 3 || columns[1] == " Flag ")
       continue;
     std::ranges::replace(columns[2], ',', ' ');
-    const bool star = std::erase(columns[1], '*') != 0;
+    const bool needs_radar = std::erase(columns[1], '*') != 0;
+    const std::string excluded = ravix_str_channel_state(flags(columns[2], ravix_str_channel_state));
     for (const std::string &name : split(columns[1], ',')) {
-      const uint32_t flag = flags(name, ravix_str_channel_state);
-      excluded[flag] = flags(columns[2], ravix_str_channel_state);
-      dfs_only |= star ? flag : 0;
+      const std::string flag = ravix_str_channel_state(flags(name, ravix_str_channel_state));
+      EXPECT_NE(told_of_radar.find(flag + " is set alongside of " + excluded + "!"), std::string::npos) << flag;
+      EXPECT_EQ(told.find(flag + " is set on non DFS channel!") != std::string::npos, needs_radar) << flag;
+      ++rows;
     }
   }
-  ASSERT_EQ(excluded.size(), 9U);
-  const harness::captured_log log;
-  for (const uint32_t dfs : {0U, RAVIX_CHANNEL_CAP_DFS, RAVIX_CHANNEL_CAP_DFS_WEATHER}) {
-    for (uint32_t state = 0; state <= 0x7FF; ++state) {
-      const bool mismatch = (dfs == 0 && (state & dfs_only) != 0) || std::ranges::any_of(excluded, [&](auto row) {
-                              return (state & row.first) != 0 && (state & row.second) != 0;
-                            });
-      const std::string rules = violated(channels{{5260000, 20, RAVIX_CHANNEL_CAP_HT20 | dfs, state, 0}});
-      ASSERT_EQ(rules.find("STATE_FLAG_MISMATCH") != std::string::npos, mismatch) << dfs << ' ' << state;
-    }
-  }
+  EXPECT_EQ(rows, 9U);
+  EXPECT_NE(told.find("[ ] is set on non DFS channel!"), std::string::npos) << "the reserved flag, which has no name";
 }
 
 TEST(ChannelList, IsJudgedAsRecorded) {
@@ -182,16 +179,13 @@ TEST(ErrorTable, HoldsTheLastListsNamesUnlessThatIsEmpty) {
     EXPECT_EQ(ravix_validate_channel_list(list, &errors), accept);
     EXPECT_EQ(names(errors), expected);
   }
-  // With little memory only names are lost, of three here; each asks for two blocks.
-  for (const bool all : {false, true}) {
-    for (std::size_t k = 1; k <= 6; ++k) {
-      ravix_types_string_table_clear(&errors);
-      all ? heap.fail_from(k) : heap.fail_only(k);
-      EXPECT_FALSE(ravix_validate_channel_list(&refused, &errors));
-      heap.fail_only(0);
-      EXPECT_EQ(errors.count, all ? (k - 1) / 2 : 2);
-    }
+  for (std::size_t k = 1; k <= 6; ++k) { // each name asks for two blocks, and without one only that name is lost
+    ravix_types_string_table_clear(&errors);
+    heap.fail_only(k);
+    EXPECT_FALSE(ravix_validate_channel_list(&refused, &errors));
+    EXPECT_EQ(errors.count, 2U);
   }
+  heap.fail_only(0);
   ravix_types_string_table_clear(&errors);
   EXPECT_EQ(heap.live(), 0U);
 }

@@ -28,44 +28,38 @@ std::string replaced(std::string text, const std::string &from, const std::strin
   return text;
 }
 
-struct outcome {
-  int status = -1;
-  std::string output; // standard error, then standard output: how they interleave is up to the C library's buffers
-};
-
-// Runs one of the programs, by a shell for its redirections.
-outcome run(const std::string &command_line) {
-  outcome result;
+// Runs one of the programs, by a shell for its redirections. What it prints on standard error comes first: how that and
+// standard output interleave is up to the C library's buffers.
+int run(const std::string &command_line, std::string &output) {
   const std::string kept = testing::TempDir() + "ravix-output-" + std::to_string(getpid());
   const std::string given = replaced("{ " RAVIX_EXAMPLE_RUN + command_line + " >" + kept + "; status=$?; cat " + kept +
                                          "; rm " + kept + "; exit $status; } 2>&1",
                                      "$DATA", RAVIX_EXAMPLE_DATA);
   std::FILE *pipe = popen(replaced(given, "$CASES", RAVIX_TEST_DATA).c_str(), "r"); // NOLINT(cert-env33-c): our own
   if (pipe == nullptr)
-    return result;
+    return -1;
   std::array<char, 4096> block{};
   while (const auto got = std::fread(block.data(), 1, block.size(), pipe))
-    result.output.append(block.data(), got);
+    output.append(block.data(), got);
   const int status = pclose(pipe);
-  result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   // What differs from run to run, or whenever a source is edited.
-  result.output = std::regex_replace(result.output, std::regex("Scan time: .*"), "Scan time: now");
-  result.output = std::regex_replace(result.output, std::regex(R"((src/\w+):\d+)"), "$1");
-  result.output = replaced(result.output, RAVIX_EXAMPLE_DATA, "$DATA");
-  return result;
+  output = std::regex_replace(output, std::regex("Scan time: .*"), "Scan time: now");
+  output = std::regex_replace(output, std::regex(R"((src/\w+):\d+)"), "$1");
+  output = replaced(output, RAVIX_EXAMPLE_DATA, "$DATA");
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 TEST(Programs, DoAsRecorded) {
   harness::expect_answers("examples", [](const std::string &call) {
     const std::size_t golden = call.find(" > ");
-    const outcome done = run(call.substr(0, golden));
+    std::string output;
+    const std::string status = std::to_string(run(call.substr(0, golden), output));
     if (golden != std::string::npos) {
-      harness::expect_golden(call.substr(golden + 3), done.output);
-      return std::to_string(done.status);
+      harness::expect_golden(call.substr(golden + 3), output);
+      return status;
     }
-    std::string answer = std::to_string(done.status) + '\n' + done.output;
-    answer.resize(answer.find_last_not_of('\n') + 1);
-    return replaced(answer, "\n", "\n    ");
+    output.insert(0, status + '\n').resize(output.find_last_not_of('\n') + 1);
+    return replaced(output, "\n", "\n    ");
   });
 }
 

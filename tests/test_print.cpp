@@ -31,7 +31,6 @@ using harness::name_of;
 using harness::randomness;
 using harness::sample;
 using harness::variety;
-using zel::ravix::record;
 using zel::ravix::record_table;
 using zel::ravix::table_record;
 
@@ -182,15 +181,14 @@ TEST(Differences, OfTables) {
   golden.expect("diff_tables");
 }
 
-template <class R> using named_values = std::vector<std::pair<std::string, R>>;
-
 // Each value whole, and after each other; alternately with and without a line end.
 template <class R> void add_all(outputs &golden, const std::vector<std::pair<std::string, R>> &values) {
   bool newline = false;
   for (const auto &[name, value] : values) {
     golden.add(name, diff(value, nothing<R>, "value", 1, newline));
     for (const auto &[reference_name, reference] : values) {
-      golden.add(name + " after " + reference_name, diff(value, &reference, "value", 1, newline = !newline));
+      golden.add(std::string(name).append(" after ").append(reference_name),
+                 diff(value, &reference, "value", 1, newline = !newline));
     }
   }
 }

@@ -18,7 +18,6 @@
 #include <iterator>
 #include <map>
 #include <random>
-#include <ranges>
 #include <set>
 #include <sstream>
 #include <string>
@@ -246,10 +245,12 @@ int judged_search(const std::vector<entry> &entries, uint32_t primary, uint32_t 
   const auto own = std::ranges::find(entries, primary, &entry::frequency);
   if (own == entries.end() || (own->capabilities & 0x37) == 0)
     return -22;
-  for (const auto &[width, khz] : std::views::reverse(widths_khz)) {
+  for (auto row = widths_khz.rbegin(); row != widths_khz.rend(); ++row) {
+    const uint16_t width = row->first;
+    const uint32_t half = row->second / 2;
     if ((own->capabilities & 0x37) < width || (max_width != 0 && width > max_width))
       continue;
-    const auto is_in_the_way = [&, width = width, half = khz / 2](const entry &e) {
+    const auto is_in_the_way = [&](const entry &e) {
       return (e.capabilities & width) != 0 && e.frequency + half >= found.center_freq &&
              e.frequency <= found.center_freq + half && (e.state & mask) != 0;
     };

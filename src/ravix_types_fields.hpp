@@ -280,7 +280,8 @@ template <std::size_t N> [[gnu::always_inline]] inline bool rest_is_zero(const s
       [=](std::size_t at, auto word) { return load_word(octets, at, word) & load_word(rest, at, word); });
 }
 
-// Sets an array's octets from `from` to its end `to` to 0. A call: inlined, it becomes a ladder of tests and stores.
+// Sets an array's octets from `from` to its end `to` to 0. A call: inlined, it becomes a ladder of tests and
+// stores that is no faster.
 [[gnu::noinline]] inline void empty_octets(void *array, std::size_t from, std::size_t to) {
   std::memset(static_cast<std::uint8_t *>(array) + from, 0, to - from);
 }

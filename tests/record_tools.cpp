@@ -160,14 +160,12 @@ template <class R, class Kind, class Compare> void compare_by(field_type &row, c
   };
 }
 
-constexpr std::size_t mark_length = sizeof secret_mark - 1;
-
 // The first `begin` characters are the mark of a secret.
 template <class R, std::size_t N>
 void specialize(field_type &row, const zel::ravix::bounded_text<R, N> &kind, std::size_t begin = 0) {
   fill_by<R>(row, kind, [begin](const auto &field, R &r, randomness &random) {
     std::memset(r.*field.member, random.kind == variety::hostile ? 'x' : 0, N);
-    std::memcpy(r.*field.member, secret_mark, begin);
+    std::memcpy(r.*field.member, secret_mark.data(), begin);
     random.word(&(r.*field.member)[begin], N - 1 - begin);
   });
 }
@@ -177,13 +175,13 @@ void specialize(field_type &row, const zel::ravix::counted_bytes<R, N> &kind, st
     const std::uint32_t length = random.up_to(N - 1);
     std::memset(r.*field.octets, 0, N);
     random.bytes(r.*field.octets, length);
-    std::memcpy(r.*field.octets, secret_mark, begin);
+    std::memcpy(r.*field.octets, secret_mark.data(), begin);
     r.*field.length =
         static_cast<std::uint8_t>(std::max<std::size_t>(length, begin) + (random.kind == variety::hostile ? N : 0));
   });
 }
 template <class Kind> void specialize(field_type &row, const zel::ravix::secret<Kind> &kind) {
-  specialize(row, static_cast<const Kind &>(kind), mark_length);
+  specialize(row, static_cast<const Kind &>(kind), secret_mark.size());
 }
 template <class R> void specialize(field_type &row, const zel::ravix::owned_bytes<R> &kind) {
   fill_by<R>(row, kind, [](const auto &field, R &r, randomness &random) {
@@ -520,55 +518,68 @@ void trial::copy(const records &all) {
     type.clear(all.source);
     require(is_hostile_ || type.difference(all.source, all.empty).empty(), "a cleared record is empty");
   }
+  require(!is_cloned || heap.size_of(clone) == type.size, "no more memory than a record has");
   type.free(clone);
+  require(!is_cloned || heap.last_release() == heap::tag{"src/ravix_types_generic_simple", 99}, "who releases it");
 }
 
 void trial::grow(const records &all) {
   const record_type &type = *type_;
-  void *made = nullptr;
-  if (succeeds([&] { return (made = type.create(0)) != nullptr; })) {
-    require(type.difference(made, all.empty).empty(), "a new record is empty");
+  std::vector<std::byte> blank(type.element != nullptr ? type.element->size : 0);
+  if (type.element != nullptr && type.element->record != nullptr) {
+    type.element->record->clear(blank.data());
   }
-  type.free(made);
+  // Whether it is a table of that many empty elements, or an empty record of another kind.
+  const auto is_new = [&](void *made, std::uint32_t count) {
+    if (type.element == nullptr || count == 0) {
+      return type.difference(made, all.empty).empty();
+    }
+    bool is_blank = *type.count(made) == count && heap.size_of(type.data(made)) == count * blank.size();
+    for (std::uint32_t i = 0; i < count && is_blank; ++i) {
+      is_blank = type.element->compare(type.at(made, i), blank.data(), true) == 0;
+    }
+    return is_blank;
+  };
+  for (const std::uint32_t count : {0U, 3U}) {
+    void *made = nullptr;
+    if (succeeds([&] { return (made = type.create(count)) != nullptr; })) {
+      require(heap.size_of(made) == type.size && is_new(made, count), "a new record is empty");
+    }
+    type.free(made);
+  }
   if (type.element == nullptr) {
     return;
   }
-  std::vector<std::byte> empty(type.element->size);
-  if (type.element->record != nullptr) {
-    type.element->record->clear(empty.data());
-  }
-  const auto has_empty_elements = [&](void *table) {
-    bool all_empty = *type.count(table) == 3;
-    for (std::uint32_t i = 0; i < *type.count(table); ++i) {
-      all_empty = all_empty && type.element->compare(type.at(table, i), empty.data(), true) == 0;
-    }
-    return all_empty;
-  };
-  if (succeeds([&] { return (made = type.create(3)) != nullptr; })) {
-    require(has_empty_elements(made), "new elements are empty");
-  }
-  type.free(made);
   int code = 0;
   const any_sample table(type, 1);
   if (succeeds([&] { return (code = type.init(table, 3)) == 0; })) {
-    require(has_empty_elements(table), "new elements are empty");
+    require(is_new(table, 3), "new elements are empty");
   }
   require(code == 0 || (code == -12 && *type.count(table) == 0), "the result of an initialisation");
-  if (type.data(all.source) == nullptr || *type.count(all.source) == 0) {
+  require(type.init(table, 0) == 0 && *type.count(table) == 0 && type.data(table) == nullptr, "a table without any");
+  const void *entry = type.data(all.source);
+  if (entry == nullptr || *type.count(all.source) == 0) {
     return;
   }
   const std::uint32_t count = *type.count(all.dest);
-  const bool is_added = succeeds([&] { return (code = type.add_entry(all.dest, type.data(all.source))) == 0; });
+  const bool is_added = succeeds([&] { return (code = type.add_entry(all.dest, entry)) == 0; });
   require(code == 0 || code == -12 || is_hostile_, "the result of an addition");
   require(*type.count(all.dest) == count + (code == 0 ? 1 : 0), "an entry more");
-  if (is_added && !is_hostile_) {
-    require(type.element->compare(type.at(all.dest, count), type.data(all.source), true) == 0, "the entry is the same");
-    require(type.contains_entry == nullptr || type.compares_references ||
-                type.contains_entry(all.dest, type.data(all.source)),
-            "the entry is found");
-  }
   for (std::uint32_t i = 0; i < count; ++i) {
     require(type.element->compare(type.at(all.dest, i), type.at(all.dest_twin, i), true) == 0, "the others remain");
+  }
+  if (!is_added) {
+    return;
+  }
+  const void *added = type.at(all.dest, count);
+  require(heap.size_of(type.data(all.dest)) == (count + 1) * blank.size(), "an array of the entries alone");
+  require(is_hostile_ || type.element->compare(added, entry, true) == 0, "the entry is the same");
+  require(is_hostile_ || type.contains_entry == nullptr || type.compares_references ||
+              type.contains_entry(all.dest, entry),
+          "the entry is found");
+  if (succeeds([&] { return type.add_entry(all.dest, added) == 0; })) {
+    require(type.element->compare(type.at(all.dest, count), type.at(all.dest, count + 1), true) == 0,
+            "an entry of the table itself");
   }
 }
 

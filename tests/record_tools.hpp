@@ -51,9 +51,6 @@ private:
   std::size_t choices_ = 0, same_ = SIZE_MAX;
 };
 
-// Secrets begin with a mark that nothing else has, so that it can be looked for in outputs.
-inline constexpr char secret_mark[] = "ZZZZ";
-
 struct record_type;
 
 // A type of values, in members of records and elements of tables.
@@ -145,7 +142,8 @@ private:
 //   so in its result and in the log, and leaves its destination empty or as it was; nothing else is logged.
 // - Comparisons are turned round by turning round their arguments, and a clone is equal to its source.
 // - Printing logs nothing, writes text alone, and a difference print is empty if and only if the records are equal.
-// - New elements and cleared records are empty. The source is never changed, and no block is left in the end.
+// - New elements and cleared records are empty, and a table gains an entry at a time. Blocks have just the size of what
+//   they hold. The source is never changed, and no block is left in the end.
 // - All of it holds for hostile records too; only that they may be refused, and lose what counts for nothing.
 class trial {
 public:

@@ -116,36 +116,6 @@ TEST(Role, EveryOperationGoesByTheMode) {
   });
 }
 
-// The copy of a role, or of the text of debug settings, with one thing wrong after the other.
-TEST(Cfg, CopiesTellWhatHasFailed) {
-  harness::captured_log log;
-  harness::heap heap;
-  harness::golden_sections golden;
-  sample<role> src;
-  sample<role> dest;
-  src.value.op_mode = RAVIX_ROLE_OPMODE_AP_HOTSPOT;
-  src.value.config_ap = ravix_cfg_role_config_ap_create();
-  const auto add = [&](const char *title) {
-    const int code = ravix_cfg_role_copy(&src.value, &dest.value);
-    golden.add(title, outcome(code, src.value, dest.value) + harness::logged(log));
-  };
-  heap.fail_only(1);
-  add("no memory for the access point");
-  ASSERT_EQ(ravix_cfg_radius_server_table_init(&src.value.security.acct_servers, 1), 0);
-  heap.fail_only(1);
-  add("no memory for the servers");
-  heap.fail_only(0);
-  src.value.security.key.len = 65;
-  add("key too long");
-  char text[] = "all";
-  ravix_cfg_debug_settings_t settings{1, text};
-  ravix_cfg_debug_settings_t copied{};
-  heap.fail_only(1);
-  const int code = ravix_cfg_debug_settings_copy(&settings, &copied);
-  golden.add("no memory for a text", outcome(code, settings, copied) + harness::logged(log));
-  golden.expect("cfg_failures");
-}
-
 TEST(Cfg, ARadiusServerIsFoundWhateverItsIndex) {
   sample<ravix_cfg_radius_server_table_t> table;
   sample<ravix_cfg_radius_server_t> server(1);

@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <numeric>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -169,6 +171,44 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
   EXPECT_TRUE(heap.requested().contains({"src/ravix_types_generic_simple", 35}));
   EXPECT_TRUE(heap.requested().contains({"src/ravix_types_generic_simple", 68}));
   EXPECT_EQ(heap.live(), 0U);
+}
+
+// How much of a record a copy has.
+std::string extent(const harness::record_type &type, const void *copied, const void *source) {
+  const harness::any_sample empty(type);
+  return type.difference(copied, source).empty() ? "all" : type.difference(copied, empty).empty() ? "nothing" : "other";
+}
+
+// Of copies of which one request after the other fails: the result, what they have, and each level's line.
+TEST(Failures, OfCopiesAreToldInnermostFirst) {
+  harness::heap heap;
+  harness::captured_log log;
+  harness::golden_sections golden;
+  for (const harness::record_type *type : harness::record_types()) {
+    std::set<std::string> outcomes;
+    for (unsigned seed = 0; seed < 4; ++seed) {
+      const harness::any_sample source(*type, harness::randomness(seed, harness::variety::full));
+      bool is_reached = true;
+      for (std::size_t k = 1; is_reached; ++k) {
+        const harness::any_sample copied(*type, seed + 1);
+        log.take();
+        heap.fail_only(k);
+        std::string told = std::to_string(type->copy(source, copied));
+        is_reached = heap.requests() >= k;
+        heap.fail_only(0);
+        told += " with " + extent(*type, copied, source);
+        for (std::uint32_t i = 0; type->element != nullptr && is_reached && i < *type->count(copied); ++i) {
+          told += ", " + extent(*type->element->record, type->at(copied, i), type->at(source, i));
+        }
+        outcomes.insert(told + harness::logged(log) + "\n");
+      }
+    }
+    outcomes.erase("0 with all\n"); // nothing has failed
+    if (!outcomes.empty()) {
+      golden.add(type->name, std::accumulate(outcomes.begin(), outcomes.end(), std::string()));
+    }
+  }
+  golden.expect("copy_failures");
 }
 
 } // namespace

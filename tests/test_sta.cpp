@@ -1,9 +1,8 @@
-// What is special in the station and steering records; what holds for every record is tested by its field list.
+// What has no field list: lists for steering, and a station's history.
 #include "golden.hpp"
 #include "harness.hpp"
-#include "record_tools.hpp"
 
-#include "ravix_types_sta_fields.hpp"
+#include "ravix_types_sta.h"
 #include "ravix_types_steering.h"
 
 #include <gtest/gtest.h>
@@ -16,46 +15,6 @@
 #include <string>
 
 namespace {
-
-using harness::difference;
-using harness::logged;
-using harness::sample;
-using zel::ravix::record;
-
-// The two records whose copy tells of a lost address text in the log only; a table's copy goes on behind such an entry.
-template <class R, class Table> void lose_address_texts(char *R::*address, const std::string &copy_name) {
-  harness::heap heap;
-  {
-    harness::captured_log log;
-    char first[] = "02:00:00:00:00:01";
-    char second[] = "02:00:00:00:00:02";
-    sample<Table> all;
-    sample<Table> copy;
-    R source{};
-    source.security = 6;
-    for (char *each : {first, second, first}) {
-      source.*address = each;
-      ASSERT_EQ(record<Table>::add_entry(&all.value, &source), 0);
-    }
-    heap.fail_only(3); // the array and the first text succeed
-    EXPECT_EQ(record<Table>::copy(&all.value, &copy.value), 0);
-    EXPECT_EQ(logged(log), "\n    ravix src/ravix_types_sta " + copy_name + ": No memory available!");
-    ASSERT_EQ(copy.value.count, 3U);
-    EXPECT_EQ(difference(copy.value.data[0], all.value.data[0]), "");
-    EXPECT_EQ(difference(copy.value.data[1], sample<R>().value), "");
-    EXPECT_EQ(difference(copy.value.data[2], all.value.data[2]), "");
-  }
-  EXPECT_EQ(heap.live(), 0U);
-}
-
-TEST(RemoteStations, ALostAddressTextLeavesAnEmptyRecordAndSuccess) {
-  lose_address_texts<ravix_remote_client_entry_t, ravix_remote_client_table_t>(
-      &ravix_remote_client_entry_t::parent_nexus_device_address, "ravix_types_remote_client_entry_copy");
-  lose_address_texts<ravix_remote_ap_entry_t, ravix_remote_ap_table_t>(&ravix_remote_ap_entry_t::nexus_device_address,
-                                                                       "ravix_types_remote_ap_entry_copy");
-}
-
-// ---- lists for steering, and a station's history
 
 // Elements in words.
 template <class T> std::string words(const T *data, std::size_t count) {

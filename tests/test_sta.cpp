@@ -8,18 +8,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <sstream>
 #include <string>
+#include <type_traits>
 
 namespace {
 
 // Elements in words.
 template <class T> std::string words(const T *data, std::size_t count) {
-  const auto *octets = reinterpret_cast<const unsigned char *>(data);
-  const bool zeroes = std::all_of(octets, octets + count * sizeof(T), [](unsigned char octet) { return octet == 0; });
+  const std::string octets(reinterpret_cast<const char *>(data), count * sizeof(T));
+  const bool zeroes = octets.find_first_not_of('\0') == std::string::npos;
   return std::to_string(count) + (data == nullptr ? ", no array" : zeroes ? " zeroes" : " of something");
 }
 template <class T> std::string words(const T &list) {
@@ -94,27 +94,27 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
 
 TEST(Steering, ARequestGivesUpItsListsAndKeepsItsPlainValues) {
   harness::heap heap;
-  const auto zeroed = [](std::size_t size) { return slab_dcalloc(1, size, "tests", __LINE__); };
-  ravix_beacon_report_rrm_req_params_t request;
-  std::memset(&request, 0x5A, offsetof(ravix_beacon_report_rrm_req_params_t, request_count));
-  request.request_count = 3;
-  request.request_ids = static_cast<std::uint8_t *>(zeroed(3));
-  request.ap_channel_reports = {};
+  ravix_beacon_report_rrm_req_params_t request, cleared;
+  std::memset(&request, 0x5A, sizeof request);
+  request.request_count = request.ap_channel_reports.count = request.subelement_count = 0;
+  request.request_ids = nullptr;
+  request.ap_channel_reports.data = nullptr;
+  request.subelements = nullptr;
+  std::memcpy(&cleared, &request, sizeof request);
+  const auto make = [](auto &count, auto *&array, std::size_t size) {
+    count = static_cast<std::uint8_t>(size);
+    array = static_cast<std::remove_reference_t<decltype(array)>>(slab_dcalloc(size, sizeof *array, "tests", __LINE__));
+  };
+  make(request.request_count, request.request_ids, 3);
+  make(request.subelement_count, request.subelements, 2);
+  make(request.subelements[1].len, request.subelements[1].octets, 6);
   ASSERT_EQ(ravix_types_ap_channel_report_table_init(&request.ap_channel_reports, 2), 0);
   ASSERT_EQ(ravix_types_ap_channel_report_init(&request.ap_channel_reports.data[1], 4), 0);
-  request.subelement_count = 2;
-  request.subelements =
-      static_cast<ravix_beacon_report_subelement_t *>(zeroed(2 * sizeof(ravix_beacon_report_subelement_t)));
-  request.subelements[1] = {6, static_cast<std::uint8_t *>(zeroed(6))};
   EXPECT_EQ(heap.live(), 5U);
-  const ravix_beacon_report_rrm_req_params_t before = request;
   for (int times = 0; times < 2; ++times) {
     ravix_types_beacon_report_rrm_req_params_clear(&request);
+    EXPECT_EQ(std::memcmp(&request, &cleared, sizeof request), 0);
     EXPECT_EQ(heap.live(), 0U);
-    EXPECT_EQ(request.request_count + request.ap_channel_reports.count + request.subelement_count, 0U);
-    EXPECT_TRUE(request.request_ids == nullptr && request.ap_channel_reports.data == nullptr &&
-                request.subelements == nullptr);
-    EXPECT_EQ(std::memcmp(&request, &before, offsetof(ravix_beacon_report_rrm_req_params_t, request_count)), 0);
   }
   ravix_types_beacon_report_rrm_req_params_clear(nullptr);
 }

@@ -2,10 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 
 namespace harness {
 
@@ -30,24 +31,15 @@ void expect_golden(const std::string &name, std::string_view text) {
   if (expected == text) {
     return;
   }
-  // The next line of a text, in quotes; "(end)" behind the last.
-  const auto next = [](std::istream &lines) {
-    std::string line;
-    return std::getline(lines, line) ? line.insert(0, 1, '\'').append(1, '\'') : std::string("(end)");
+  const auto same = std::ranges::mismatch(expected, text).in1 - expected.begin();
+  const auto begin = expected.substr(0, static_cast<std::size_t>(same)).rfind('\n') + 1;
+  const auto line = [&](std::string_view whole) {
+    whole.remove_prefix(begin);
+    const auto length = std::min(whole.find('\n'), whole.size() - 1) + 1; // with its end, which may be what differs
+    return testing::PrintToString(std::string(whole.substr(0, length)));
   };
-  std::istringstream wanted(expected);
-  std::istringstream got{std::string(text)};
-  std::string wanted_line;
-  std::string got_line;
-  int line = 0;
-  do {
-    ++line;
-    wanted_line = next(wanted);
-    got_line = next(got);
-  } while (wanted_line == got_line && wanted && got);
-  ADD_FAILURE() << path << ":" << line << ": expected " << wanted_line << "\n  but got " << got_line
-                << (wanted_line == got_line ? " with another line end" : "")
-                << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";
+  ADD_FAILURE() << path << ":" << std::count(expected.begin(), expected.begin() + same, '\n') + 1 << ": expected "
+                << line(expected) << "\n  but got " << line(text) << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";
 }
 
 std::string logged(captured_log &log) {

@@ -33,14 +33,6 @@ public:
 
   // What has been written since the last call.
   std::vector<log_line> take() { return std::exchange(lines_, {}); }
-  // The same as "function: text".
-  std::vector<std::string> take_texts() {
-    std::vector<std::string> texts;
-    for (const log_line &line : take()) {
-      texts.push_back(line.function + ": " + line.text);
-    }
-    return texts;
-  }
 
 private:
   static void write(void *context, const char *name, const char *file, const char *function, int line,

@@ -73,22 +73,16 @@ template <class T> void fill_value(T &value, randomness &random) {
   }
 }
 
-// The first field that differs, or null; and its order.
-const field_type *first_difference(const record_type &type, const void *a, const void *b, bool strictly, int &order) {
-  for (const field_type &field : type.fields) {
-    order = strictly || field.is_compared ? field.compare(a, b, strictly) : 0;
-    if (order != 0) {
-      return &field;
-    }
-  }
-  return nullptr;
+// What the first of them that differs gives, or 0.
+template <class All, class Compare> int first_order(const All &all, Compare compare) {
+  int order = 0;
+  std::ranges::find_if(all, [&](const auto &each) { return (order = compare(each)) != 0; });
+  return order;
 }
 
 template <class T> int compare_values(const T &a, const T &b, bool strictly) {
   if constexpr (has_record<T>) {
-    int order = 0;
-    first_difference(row_of<T>(), &a, &b, strictly, order);
-    return order;
+    return row_of<T>().order(&a, &b, strictly);
   } else if constexpr (std::is_same_v<T, char *> || (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>)) {
     if (a == nullptr || b == nullptr) {
       return (a != nullptr) - (b != nullptr);
@@ -136,13 +130,12 @@ template <class T> const value_type &value_of() {
     made.compare = [](const void *a, const void *b, bool strictly) {
       return compare_values(*static_cast<const T *>(a), *static_cast<const T *>(b), strictly);
     };
-    made.number = [](const void *v) {
-      std::ostringstream text;
+    made.number = [](const void *v) -> std::string {
       if constexpr (std::is_arithmetic_v<T>) {
         const T number = *static_cast<const T *>(v);
-        number != 0 ? text << +number : text;
+        return number != 0 ? std::to_string(number) : "";
       }
-      return text.str();
+      return "";
     };
     return made;
   }();
@@ -252,12 +245,10 @@ field_type plain_field(const void *kind, const char *name, bool is_compared, std
     }
   };
   row.compare = [list = row.members](const void *a, const void *b, bool strictly) {
-    int order = 0;
-    for (auto member = list.begin(); member != list.end() && order == 0; ++member) {
-      const auto at = [=](const void *r) { return static_cast<const char *>(r) + member->offset; };
-      order = member->type->compare(at(a), at(b), strictly);
-    }
-    return order;
+    return first_order(list, [&](const field_type::member &member) {
+      const auto at = [&](const void *r) { return static_cast<const char *>(r) + member.offset; };
+      return member.type->compare(at(a), at(b), strictly);
+    });
   };
   return row;
 }
@@ -284,77 +275,69 @@ template <class Kind, class R> field_type field_of(const Kind &field, const R &e
 
 template <class R, class... T> constexpr bool is_one_of = (std::is_same_v<R, T> || ...);
 
-template <class R> void add_table_operations(record_type &row) {
+// An operation on records of a type, as one on those of any type.
+template <class A>
+using untyped = std::conditional_t<!std::is_pointer_v<A>, A,
+                                   std::conditional_t<std::is_const_v<std::remove_pointer_t<A>>, const void *, void *>>;
+template <auto Operation> struct erased;
+template <class Result, class... A, Result (*Operation)(A...)> struct erased<Operation> {
+  static untyped<Result> call(untyped<A>... arguments) { return Operation(static_cast<A>(arguments)...); }
+};
+
+template <class R> record_type make_row() {
   using operations = record<R>;
-  using Entry = zel::ravix::entry_of<R>;
-  row.element = &value_of<zel::ravix::element_of<R>>();
-  row.count = [](void *t) { return &static_cast<R *>(t)->count; };
-  row.data = [](const void *t) -> void * { return static_cast<const R *>(t)->data; };
-  row.init = [](void *t, unsigned count) { return operations::init(static_cast<R *>(t), count); };
-  row.add_entry = [](void *t, const void *entry) {
-    return operations::add_entry(static_cast<R *>(t), static_cast<Entry *>(entry));
+  constexpr bool is_table = requires {
+    operations::init;
   };
-  if constexpr (requires { operations::contains_entry; }) {
-    row.contains_entry = [](const void *t, const void *entry) {
-      return operations::contains_entry(static_cast<const R *>(t), static_cast<Entry *>(entry));
+  record_type row{};
+  const std::string name = typeid(R).name();
+  row.name = name.substr(name.find_first_not_of("0123456789")); // behind its length
+  row.info = &typeid(R);
+  row.size = sizeof(R);
+  R empty{};
+  operations::clear(&empty);
+  zel::ravix::for_each_field<R>([&](const auto &field) { row.fields.push_back(field_of(field, empty)); });
+  row.compares_references = is_one_of<R, ravix_tlv_t, ravix_tlv_table_t>;
+  row.copies_leniently = is_one_of<R, ravix_remote_ap_entry_t, ravix_remote_ap_table_t, ravix_remote_client_entry_t,
+                                   ravix_remote_client_table_t>;
+  const auto allocates = [&](auto &...function) {
+    (row.allocating.push_back(reinterpret_cast<const void *>(&function)), ...);
+  };
+  allocates(operations::create, operations::clone, operations::copy);
+  row.clone = erased<operations::clone>::call;
+  row.copy = erased<operations::copy>::call;
+  row.clear = erased<operations::clear>::call;
+  row.free = erased<operations::free>::call;
+  if constexpr (requires { operations::compare; }) {
+    row.compare = erased<operations::compare>::call;
+  }
+  if constexpr (requires(std::ostream & os) { os << empty; }) {
+    row.print = [](std::ostream &os, const void *r) { os << *static_cast<const R *>(r); };
+  }
+  if constexpr (requires(std::ostream & os) { print_diff(os, empty, &empty, "", 1, true); }) {
+    row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *heading) {
+      print_diff(os, *static_cast<const R *>(r), static_cast<const R *>(ref), heading, 1, true);
     };
   }
+  if constexpr (is_table) {
+    allocates(operations::init, operations::add_entry);
+    row.create = erased<operations::create>::call;
+    row.element = &value_of<zel::ravix::element_of<R>>();
+    row.count = [](void *t) { return &static_cast<R *>(t)->count; };
+    row.data = [](const void *t) -> void * { return static_cast<const R *>(t)->data; };
+    row.init = erased<operations::init>::call;
+    row.add_entry = erased<operations::add_entry>::call;
+  } else {
+    row.create = [](unsigned /*count*/) -> void * { return operations::create(); };
+  }
+  if constexpr (requires { operations::contains_entry; }) {
+    row.contains_entry = erased<operations::contains_entry>::call;
+  }
+  return row;
 }
 
 template <class R> const record_type &row_of() {
-  using operations = record<R>;
-  const auto make = [] {
-    constexpr bool is_table = requires {
-      operations::init;
-    };
-    record_type row{};
-    const std::string name = typeid(R).name();
-    row.name = name.substr(name.find_first_not_of("0123456789")); // behind its length
-    row.info = &typeid(R);
-    row.size = sizeof(R);
-    R empty{};
-    operations::clear(&empty);
-    zel::ravix::for_each_field<R>([&](const auto &field) { row.fields.push_back(field_of(field, empty)); });
-    row.compares_references = is_one_of<R, ravix_tlv_t, ravix_tlv_table_t>;
-    row.copies_leniently = is_one_of<R, ravix_remote_ap_entry_t, ravix_remote_ap_table_t, ravix_remote_client_entry_t,
-                                     ravix_remote_client_table_t>;
-    const auto allocates = [&](auto &...function) {
-      (row.allocating.push_back(reinterpret_cast<const void *>(&function)), ...);
-    };
-    allocates(operations::create, operations::clone, operations::copy);
-    row.create = [](unsigned count) -> void * {
-      if constexpr (is_table) {
-        return operations::create(count);
-      } else {
-        return operations::create();
-      }
-    };
-    row.clone = [](const void *r) -> void * { return operations::clone(static_cast<const R *>(r)); };
-    row.copy = [](const void *src, void *dest) {
-      return operations::copy(static_cast<const R *>(src), static_cast<R *>(dest));
-    };
-    row.clear = [](void *r) { operations::clear(static_cast<R *>(r)); };
-    row.free = [](void *r) { operations::free(static_cast<R *>(r)); };
-    if constexpr (requires { operations::compare; }) {
-      row.compare = [](const void *a, const void *b) {
-        return operations::compare(static_cast<const R *>(a), static_cast<const R *>(b));
-      };
-    }
-    if constexpr (requires(std::ostream & os) { os << empty; }) {
-      row.print = [](std::ostream &os, const void *r) { os << *static_cast<const R *>(r); };
-    }
-    if constexpr (requires(std::ostream & os) { print_diff(os, empty, &empty, "", 1, true); }) {
-      row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *heading) {
-        print_diff(os, *static_cast<const R *>(r), static_cast<const R *>(ref), heading, 1, true);
-      };
-    }
-    if constexpr (is_table) {
-      allocates(operations::init, operations::add_entry);
-      add_table_operations<R>(row);
-    }
-    return row;
-  };
-  static const record_type row = make();
+  static const record_type row = make_row<R>();
   return row;
 }
 
@@ -395,15 +378,15 @@ void record_type::fill_table(void *table, std::uint32_t wanted, randomness &rand
 }
 
 std::string record_type::difference(const void *a, const void *b) const {
-  int order = 0;
-  const field_type *field = first_difference(*this, a, b, true, order);
-  return field != nullptr ? field->name : "";
+  const auto found =
+      std::ranges::find_if(fields, [&](const field_type &field) { return field.compare(a, b, true) != 0; });
+  return found != fields.end() ? found->name : "";
 }
 
-int record_type::order(const void *a, const void *b) const {
-  int order = 0;
-  first_difference(*this, a, b, false, order);
-  return order;
+int record_type::order(const void *a, const void *b, bool strictly) const {
+  return first_order(fields, [&](const field_type &field) {
+    return strictly || field.is_compared ? field.compare(a, b, strictly) : 0;
+  });
 }
 
 // ---- what must hold of every operation

@@ -112,7 +112,7 @@ struct record_type {
   // Name of the first field that differs strictly; "" for records that are the same and share nothing.
   std::string difference(const void *a, const void *b) const;
   // What a comparison should give.
-  int order(const void *a, const void *b) const;
+  int order(const void *a, const void *b, bool strictly = false) const;
   void *at(const void *table, std::size_t i) const { return static_cast<char *>(data(table)) + i * element->size; }
 };
 
@@ -189,27 +189,23 @@ template <class T> void fill_table(T &table, std::uint32_t count, randomness &ra
   type_of(typeid(T)).fill_table(&table, count, random);
 }
 
-template <class R> struct sample {
-  R value{};
+template <class R> struct sample : any_sample {
+  R &value = *static_cast<R *>(static_cast<void *>(*this));
 
-  sample() { zel::ravix::record<R>::clear(&value); }
-  explicit sample(randomness random) : sample() { type_of(typeid(R)).fill(&value, random); }
+  sample() : any_sample(type_of(typeid(R))) {}
+  explicit sample(randomness random) : any_sample(type_of(typeid(R)), random) {}
   explicit sample(unsigned seed, variety kind = variety::usual) : sample(randomness(seed, kind)) {}
-  ~sample() { zel::ravix::record<R>::clear(&value); }
-  sample(const sample &) = delete;
-  sample &operator=(const sample &) = delete;
 };
 
 // Runs a check for every record type.
-template <class... R, class Check> void for_all(zel::ravix::type_list<R...> /*records*/, Check check) {
-  const auto run = [&]<class T>(T * /*type*/) {
-    SCOPED_TRACE(typeid(T).name());
-    check.template operator()<T>();
-  };
-  (run(static_cast<R *>(nullptr)), ...);
-}
 template <class Check> void for_all_records(Check check) {
-  for_all(zel::ravix::all_records{}, check);
+  const auto run = [&]<class R>(const R * /*type*/) {
+    SCOPED_TRACE(name_of<R>());
+    check.template operator()<R>();
+  };
+  [&]<class... R>(zel::ravix::type_list<R...> /*records*/) {
+    (run(static_cast<const R *>(nullptr)), ...);
+  }(zel::ravix::all_records{});
 }
 
 } // namespace harness

@@ -257,9 +257,7 @@ TEST(Secrets, ReachNoOutputAndNoLogLine) {
         type->copy(r, dest);
       }
       heap.fail_only(0);
-      for (const std::string &text : log.take_texts()) {
-        all << text << '\n';
-      }
+      all << harness::logged(log);
       EXPECT_FALSE(tells_secret(all.str())) << all.str();
     }
   }

@@ -68,7 +68,7 @@ TEST(RingBuffer, PiecesBecomeTextsThatFollowEachOther) {
     }
   }
   EXPECT_GT(number_cut, 1000U);
-  EXPECT_EQ(log.take_texts(), std::vector<std::string>(number_cut, "vwrite: String is too long!"));
+  EXPECT_EQ(log.take().size(), number_cut);
 }
 
 TEST(RingBuffer, CutsATextThatCannotBeFormatted) {

@@ -7,13 +7,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 
 namespace {
 
 using harness::sample;
-using zel::ravix::record;
 
 int sign(int order) {
   return (order > 0) - (order < 0);
@@ -114,18 +112,6 @@ TEST(Role, EveryOperationGoesByTheMode) {
     }
     return told + lines;
   });
-}
-
-TEST(Cfg, ARadiusServerIsFoundWhateverItsIndex) {
-  sample<ravix_cfg_radius_server_table_t> table;
-  sample<ravix_cfg_radius_server_t> server(1);
-  server.value.index = 1;
-  ASSERT_EQ(ravix_cfg_radius_server_table_add_entry(&table.value, &server.value), 0);
-  EXPECT_EQ(table.value.data[0].index, 1);
-  server.value.index = 2;
-  EXPECT_TRUE(ravix_cfg_radius_server_table_contains_entry(&table.value, &server.value));
-  server.value.secret[0] = '!';
-  EXPECT_FALSE(ravix_cfg_radius_server_table_contains_entry(&table.value, &server.value));
 }
 
 } // namespace

@@ -69,19 +69,15 @@ void expect_answers(const std::string &name, const std::function<std::string(con
 void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome) {
   std::ifstream file(path_of(name));
   std::string all;
-  std::string input;
-  bool in_input = false;
-  for (std::string line; std::getline(file, line);) {
-    if (line.starts_with("===")) {
-      in_input = true;
-      input.clear();
-      all += line + '\n';
-    } else if (in_input && line == "---") {
-      in_input = false;
-      all.append(input).append("---\n").append(outcome(input));
-    } else if (in_input) {
+  for (std::string title; std::getline(file, title);) {
+    if (!title.starts_with("===")) {
+      continue; // an outcome, which is told anew
+    }
+    std::string input;
+    for (std::string line; std::getline(file, line) && line != "---";) {
       input += line + '\n';
     }
+    all.append(title).append("\n").append(input).append("---\n").append(outcome(input));
   }
   expect_golden(name, all);
 }

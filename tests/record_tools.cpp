@@ -6,7 +6,6 @@
 #include <cstring>
 #include <sstream>
 #include <string_view>
-#include <tuple>
 #include <type_traits>
 #include <utility>
 
@@ -80,18 +79,16 @@ template <class All, class Compare> int first_order(const All &all, Compare comp
   return order;
 }
 
+template <class E> int compare_arrays(const E *a, std::size_t count_a, const E *b, std::size_t count_b, bool strictly);
+
 template <class T> int compare_values(const T &a, const T &b, bool strictly) {
   if constexpr (has_record<T>) {
     return row_of<T>().order(&a, &b, strictly);
-  } else if constexpr (std::is_same_v<T, char *> || (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>)) {
-    if (a == nullptr || b == nullptr) {
-      return (a != nullptr) - (b != nullptr);
-    }
-    if constexpr (std::is_same_v<T, char *>) {
-      return a == b && strictly ? 1 : std::strcmp(a, b);
-    } else {
-      return a == b && strictly ? 1 : compare_values(*a, *b, strictly);
-    }
+  } else if constexpr (std::is_same_v<T, char *>) {
+    const std::size_t length = a != nullptr && b != nullptr ? std::min(std::strlen(a), std::strlen(b)) + 1 : 0;
+    return compare_arrays(a, length, b, length, strictly);
+  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+    return compare_arrays(a, 1, b, 1, strictly);
   } else if constexpr (std::is_scalar_v<T>) {
     return (a > b) - (a < b);
   } else {
@@ -453,30 +450,23 @@ bool trial::run(const record_type &type, const randomness &first, const randomne
 
 void trial::print(const records &all) {
   log.take();
-  std::ostringstream out, whole, changes;
+  std::ostringstream out, changes;
   if (type_->print != nullptr) {
     type_->print(out, all.source);
-    require(!out.str().empty() && out.str().back() != '\n', "a print has no line break at its end");
   }
   if (type_->print_diff != nullptr) {
-    type_->print_diff(whole, all.source, nullptr, "name");
-    require(whole.str().starts_with(" name:") && whole.str().back() == '\n', "a print of all");
     type_->print_diff(changes, all.source, all.dest, nullptr);
     require(changes.str().empty() == (type_->compare(all.source, all.dest) == 0), "a print of what differs");
+    type_->print_diff(out, all.source, nullptr, "name");
     type_->print_diff(out, all.dest, all.source, nullptr);
   }
-  require((out.str() + whole.str() + changes.str()).find('\0') == std::string::npos, "what is printed is text");
+  require((out.str() + changes.str()).find('\0') == std::string::npos, "what is printed is text");
   require(log.take().empty(), "printing logs nothing");
 }
 
 void trial::copy(const records &all) {
   const record_type &type = *type_;
-  const auto sign = [](int order) { return (order > 0) - (order < 0); };
-  if (type.compare != nullptr) {
-    require(is_hostile_ || type.compare(all.source, all.source) == 0, "a record is equal to itself");
-    require(sign(type.compare(all.source, all.dest)) == -sign(type.compare(all.dest, all.source)) || is_hostile_,
-            "order");
-  }
+  require(is_hostile_ || type.compare == nullptr || type.compare(all.source, all.source) == 0, "equal to itself");
   void *clone = nullptr;
   const bool is_cloned = succeeds([&] { return (clone = type.clone(all.source)) != nullptr; });
   int code = 0;
@@ -488,10 +478,6 @@ void trial::copy(const records &all) {
   require(type.difference(all.source, all.source_twin).empty(), "the source is unchanged");
   if (is_copied) {
     require(type.copy(all.dest, all.dest) == 0, "a copy onto itself");
-  }
-  if (is_cloned && is_copied && type.compare != nullptr && !type.compares_references) {
-    require(is_hostile_ || type.compare(clone, all.dest) == 0, "copies are equal");
-    require(is_hostile_ || type.compare(clone, all.source) == 0, "a clone is equal");
   }
   require(!is_cloned || !is_copied || type.difference(clone, all.dest).empty(), "copies are the same");
   for (const bool is_cleared : {false, true}) {
@@ -557,9 +543,6 @@ void trial::grow(const records &all) {
   const void *added = type.at(all.dest, count);
   require(heap.size_of(type.data(all.dest)) == (count + 1) * blank.size(), "an array of the entries alone");
   require(is_hostile_ || type.element->compare(added, entry, true) == 0, "the entry is the same");
-  require(is_hostile_ || type.contains_entry == nullptr || type.compares_references ||
-              type.contains_entry(all.dest, entry),
-          "the entry is found");
   if (succeeds([&] { return type.add_entry(all.dest, added) == 0; })) {
     require(type.element->compare(type.at(all.dest, count), type.at(all.dest, count + 1), true) == 0,
             "an entry of the table itself");

@@ -140,7 +140,6 @@ private:
 //
 // - A clone and a copy are the same as their source, share nothing with it and outlive it. An operation that fails says
 //   so in its result and in the log, and leaves its destination empty or as it was; nothing else is logged.
-// - Comparisons are turned round by turning round their arguments, and a clone is equal to its source.
 // - Printing logs nothing, writes text alone, and a difference print is empty if and only if the records are equal.
 // - New elements and cleared records are empty, and a table gains an entry at a time. Blocks have just the size of what
 //   they hold. The source is never changed, and no block is left in the end.

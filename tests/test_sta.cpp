@@ -34,60 +34,51 @@ std::string words(const ravix_ap_channel_report_t &report) {
          std::to_string(report.length) + ", class " + std::to_string(report.operating_class);
 }
 
-// A list and what is called for it.
-template <class T> struct list_user {
-  T *(*create)(unsigned);
-  int (*init)(T *, unsigned);
-  void (*clear)(T *);
-  void (*free)(T *);
-  T *list = nullptr;
-
-  std::string use(const std::string &verb, unsigned count) {
-    int code = 0;
-    if (verb == "init") {
-      code = init(list, count);
-    } else if (verb == "clear") {
-      clear(list);
-    } else {
-      free(list);
-      list = verb == "create" ? create(count) : nullptr;
-    }
-    return std::to_string(code) + ": " + (list == nullptr ? "none" : words(*list));
-  }
-};
-
 TEST(Steering, ListsAreMadeFilledAndReleased) {
   harness::heap heap;
-  list_user<ravix_btm_candidate_table_t> candidates{
-      ravix_types_btm_candidate_table_create, ravix_types_btm_candidate_table_init,
-      ravix_types_btm_candidate_table_clear, ravix_types_btm_candidate_table_free};
-  list_user<ravix_ap_channel_report_table_t> channels{
-      ravix_types_ap_channel_report_table_create, ravix_types_ap_channel_report_table_init,
-      ravix_types_ap_channel_report_table_clear, ravix_types_ap_channel_report_table_free};
-  list_user<ravix_beacon_report_table_t> beacons{ravix_types_beacon_report_table_create, nullptr,
-                                                 ravix_types_beacon_report_table_clear,
-                                                 ravix_types_beacon_report_table_free};
-  list_user<ravix_station_history_t> history{ravix_types_station_history_create, nullptr, nullptr,
-                                             ravix_types_station_history_free};
+  ravix_btm_candidate_table_t *candidates = nullptr;
+  ravix_ap_channel_report_table_t *channels = nullptr;
+  ravix_beacon_report_table_t *beacons = nullptr;
+  ravix_station_history_t *history = nullptr;
   ravix_ap_channel_report_t channel_report{};
-  list_user<ravix_ap_channel_report_t> report{nullptr, ravix_types_ap_channel_report_init,
-                                              ravix_types_ap_channel_report_clear, nullptr, &channel_report};
-  list_user<ravix_ap_channel_report_t> no_report = report;
-  no_report.list = nullptr;
+  ravix_ap_channel_report_t *report = &channel_report, *no_report = nullptr;
   harness::expect_answers("steering_lists", [&](const std::string &call) {
     std::istringstream in(call);
-    std::string list, verb, ignored;
+    std::string name, verb, ignored;
     unsigned count = 0;
     std::size_t failing = 0;
-    in >> list >> verb >> count >> ignored >> failing;
+    in >> name >> verb >> count >> ignored >> failing;
+    const auto use = [&](auto *&list, auto create, auto init, auto clear, auto free) {
+      int code = 0;
+      if (verb == "init") {
+        code = init(list, count);
+      } else if (verb == "clear") {
+        clear(list);
+      } else {
+        free(list);
+        list = verb == "create" ? create(count) : nullptr;
+      }
+      return std::to_string(code) + ": " + (list == nullptr ? "none" : words(*list));
+    };
+    const auto no = [](auto...) { return 0; }; // there is no such operation
+    const auto use_report = [&](ravix_ap_channel_report_t *&list) {
+      return use(
+          list, [](unsigned) { return nullptr; }, ravix_types_ap_channel_report_init,
+          ravix_types_ap_channel_report_clear, no);
+    };
     heap.fail_only(failing);
     channel_report.operating_class = 115; // until the report is filled or cleared
-    return list == "candidates"  ? candidates.use(verb, count)
-           : list == "channels"  ? channels.use(verb, count)
-           : list == "beacons"   ? beacons.use(verb, count)
-           : list == "report"    ? report.use(verb, count)
-           : list == "no-report" ? no_report.use(verb, count)
-                                 : history.use(verb, count);
+    return name == "candidates"
+               ? use(candidates, ravix_types_btm_candidate_table_create, ravix_types_btm_candidate_table_init,
+                     ravix_types_btm_candidate_table_clear, ravix_types_btm_candidate_table_free)
+           : name == "channels"
+               ? use(channels, ravix_types_ap_channel_report_table_create, ravix_types_ap_channel_report_table_init,
+                     ravix_types_ap_channel_report_table_clear, ravix_types_ap_channel_report_table_free)
+           : name == "beacons" ? use(beacons, ravix_types_beacon_report_table_create, no,
+                                     ravix_types_beacon_report_table_clear, ravix_types_beacon_report_table_free)
+           : name == "history"
+               ? use(history, ravix_types_station_history_create, no, no, ravix_types_station_history_free)
+               : use_report(name == "report" ? report : no_report);
   });
   EXPECT_EQ(heap.live(), 0U);
 }

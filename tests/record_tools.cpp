@@ -141,68 +141,54 @@ template <class T> const value_type &value_of() {
 
 // ---- kinds of field that are filled or compared otherwise than member by member
 
-template <class R, class Kind, class Fill> void fill_by(field_type &row, const Kind &field, Fill fill) {
-  row.fill = [&field, fill](void *r, randomness &random) { fill(field, *static_cast<R *>(r), random); };
-}
-template <class R, class Kind, class Compare> void compare_by(field_type &row, const Kind &field, Compare compare) {
-  row.compare = [&field, compare](const void *a, const void *b, bool strictly) {
-    return compare(field, *static_cast<const R *>(a), *static_cast<const R *>(b), strictly);
-  };
-}
-
 // The first `begin` characters are the mark of a secret.
 template <class R, std::size_t N>
-void specialize(field_type &row, const zel::ravix::bounded_text<R, N> &kind, std::size_t begin = 0) {
-  fill_by<R>(row, kind, [begin](const auto &field, R &r, randomness &random) {
-    std::memset(r.*field.member, random.kind == variety::hostile ? 'x' : 0, N);
-    std::memcpy(r.*field.member, secret_mark.data(), begin);
-    random.word(&(r.*field.member)[begin], N - 1 - begin);
-  });
+void fill_as(const zel::ravix::bounded_text<R, N> &field, R &r, randomness &random, std::size_t begin = 0) {
+  std::memset(r.*field.member, random.kind == variety::hostile ? 'x' : 0, N);
+  std::memcpy(r.*field.member, secret_mark.data(), begin);
+  random.word(&(r.*field.member)[begin], N - 1 - begin);
 }
 template <class R, std::size_t N>
-void specialize(field_type &row, const zel::ravix::counted_bytes<R, N> &kind, std::size_t begin = 0) {
-  fill_by<R>(row, kind, [begin](const auto &field, R &r, randomness &random) {
-    const std::uint32_t length = random.up_to(N - 1);
-    std::memset(r.*field.octets, 0, N);
-    random.bytes(r.*field.octets, length);
-    std::memcpy(r.*field.octets, secret_mark.data(), begin);
-    r.*field.length =
-        static_cast<std::uint8_t>(std::max<std::size_t>(length, begin) + (random.kind == variety::hostile ? N : 0));
-  });
+void fill_as(const zel::ravix::counted_bytes<R, N> &field, R &r, randomness &random, std::size_t begin = 0) {
+  const std::uint32_t length = random.up_to(N - 1);
+  std::memset(r.*field.octets, 0, N);
+  random.bytes(r.*field.octets, length);
+  std::memcpy(r.*field.octets, secret_mark.data(), begin);
+  r.*field.length =
+      static_cast<std::uint8_t>(std::max<std::size_t>(length, begin) + (random.kind == variety::hostile ? N : 0));
 }
-template <class Kind> void specialize(field_type &row, const zel::ravix::secret<Kind> &kind) {
-  specialize(row, static_cast<const Kind &>(kind), secret_mark.size());
+template <class Kind, class R> void fill_as(const zel::ravix::secret<Kind> &field, R &r, randomness &random) {
+  fill_as(static_cast<const Kind &>(field), r, random, secret_mark.size());
 }
-template <class R> void specialize(field_type &row, const zel::ravix::owned_bytes<R> &kind) {
-  fill_by<R>(row, kind, [](const auto &field, R &r, randomness &random) {
-    r.*field.length = static_cast<std::uint8_t>(random.some(255));
-    if (r.*field.length != 0 && random.kind != variety::hostile) {
-      r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
-      random.bytes(r.*field.octets, r.*field.length);
-    }
-  });
-  compare_by<R>(row, kind, [](const auto &field, const R &a, const R &b, bool strictly) {
-    return compare_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length, strictly);
-  });
+
+template <class R> void fill_as(const zel::ravix::owned_bytes<R> &field, R &r, randomness &random) {
+  r.*field.length = static_cast<std::uint8_t>(random.some(255));
+  if (r.*field.length != 0 && random.kind != variety::hostile) {
+    r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
+    random.bytes(r.*field.octets, r.*field.length);
+  }
 }
-template <class T, class E, class Text> void specialize(field_type &row, const zel::ravix::entries<T, E, Text> &kind) {
-  fill_by<T>(row, kind, [](const auto & /*field*/, T &table, randomness &random) {
-    if (random.kind == variety::hostile && random.absent()) {
-      table.count = random.up_to(UINT32_MAX);
-    } else {
-      row_of<T>().fill_table(&table, random.some(3), random);
-    }
-  });
-  compare_by<T>(row, kind, [](const auto & /*field*/, const T &a, const T &b, bool strictly) {
-    return compare_arrays(a.data, a.count, b.data, b.count, strictly);
-  });
+template <class R> int compare_as(const zel::ravix::owned_bytes<R> &field, const R &a, const R &b, bool strictly) {
+  return compare_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length, strictly);
 }
-template <class R, class T> void specialize(field_type &row, const zel::ravix::role_config<R, T> &kind) {
-  fill_by<R>(row, kind, [](const auto &field, R &r, randomness &random) {
-    do {
-      fill_value(r.*field.member, random);
-    } while (r.*field.member == nullptr && random.kind != variety::hostile); // a role without it is refused
-  });
+
+template <class T, class E, class Text>
+void fill_as(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
+  if (random.kind == variety::hostile && random.absent()) {
+    table.count = random.up_to(UINT32_MAX);
+  } else {
+    row_of<T>().fill_table(&table, random.some(3), random);
+  }
+}
+template <class T, class E, class Text>
+int compare_as(const zel::ravix::entries<T, E, Text> & /*field*/, const T &a, const T &b, bool strictly) {
+  return compare_arrays(a.data, a.count, b.data, b.count, strictly);
+}
+
+template <class R, class T> void fill_as(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
+  do {
+    fill_value(r.*field.member, random);
+  } while (r.*field.member == nullptr && random.kind != variety::hostile); // a role without it is refused
 }
 
 template <class Kind, class R> field_type field_of(const Kind &field, const R &empty);
@@ -213,24 +199,24 @@ void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
 void choose(ravix_cfg_role_static_t &role, randomness &random) {
   role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
 }
-template <class Tag, class Wide, class Other>
-void specialize(field_type &row, const zel::ravix::tagged<Tag, Wide, Other> &kind) {
-  using R = typename Tag::record_type;
+template <class Tag, class Wide, class Other, class R>
+field_type chosen_of(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &r) {
+  return Tag::of(r) == zel::ravix::alternative::other ? field_of(field.other, r) : field_of(field.wide, r);
+}
+template <class Tag, class Wide, class Other, class R>
+void fill_as(const zel::ravix::tagged<Tag, Wide, Other> &field, R &r, randomness &random) {
   using zel::ravix::alternative;
-  const field_type wide = field_of(kind.wide, R{});
-  const field_type other = field_of(kind.other, R{});
-  fill_by<R>(row, kind, [wide, other](const auto & /*field*/, R &r, randomness &random) {
-    while (Tag::of(r) == alternative::none && random.kind != variety::hostile) {
-      choose(r, random);
-    }
-    if (Tag::of(r) != alternative::none) {
-      (Tag::of(r) == alternative::wide ? wide : other).fill(&r, random);
-    }
-  });
-  compare_by<R>(row, kind, [wide, other](const auto & /*field*/, const R &a, const R &b, bool strictly) {
-    const int order = static_cast<int>(Tag::of(a)) - static_cast<int>(Tag::of(b));
-    return order != 0 ? order : (Tag::of(a) == alternative::other ? other : wide).compare(&a, &b, strictly);
-  });
+  while (Tag::of(r) == alternative::none && random.kind != variety::hostile) {
+    choose(r, random);
+  }
+  if (Tag::of(r) != alternative::none) {
+    chosen_of(field, r).fill(&r, random);
+  }
+}
+template <class Tag, class Wide, class Other, class R>
+int compare_as(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &a, const R &b, bool strictly) {
+  const int order = static_cast<int>(Tag::of(a)) - static_cast<int>(Tag::of(b));
+  return order != 0 ? order : chosen_of(field, a).compare(&a, &b, strictly);
 }
 
 // Filled and compared member by member.
@@ -262,8 +248,13 @@ template <class Kind, class R> field_type field_of(const Kind &field, const R &e
     members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
   });
   field_type row = plain_field(&field, field.name, !uncompared<Kind, R>, std::move(members));
-  if constexpr (requires { specialize(row, field); }) {
-    specialize(row, field);
+  if constexpr (requires(R & r, randomness & random) { fill_as(field, r, random); }) {
+    row.fill = [&field](void *r, randomness &random) { fill_as(field, *static_cast<R *>(r), random); };
+  }
+  if constexpr (requires { compare_as(field, empty, empty, true); }) {
+    row.compare = [&field](const void *a, const void *b, bool strictly) {
+      return compare_as(field, *static_cast<const R *>(a), *static_cast<const R *>(b), strictly);
+    };
   }
   return row;
 }

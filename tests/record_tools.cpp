@@ -17,16 +17,11 @@ using zel::ravix::record;
 // ---- records at random
 
 std::uint32_t randomness::up_to(std::uint32_t most) {
-  std::uint64_t next = 0;
   if (choices_++ == same_) {
     engine_.seed(static_cast<std::uint32_t>(same_) + 1000003);
   }
-  if (chosen_.empty()) {
-    next = engine_();
-  } else {
-    next = chosen_.front();
-    chosen_ = chosen_.subspan(1);
-  }
+  const std::uint64_t next = chosen_.empty() ? engine_() : chosen_.front();
+  chosen_ = chosen_.subspan(chosen_.empty() ? 0 : 1);
   return static_cast<std::uint32_t>(next % (most + std::uint64_t{1}));
 }
 
@@ -329,14 +324,12 @@ template <class R> const record_type &row_of() {
   return row;
 }
 
-template <class... R> std::vector<const record_type *> rows_of(zel::ravix::type_list<R...> /*records*/) {
-  return {&row_of<R>()...};
-}
-
 } // namespace
 
 const std::vector<const record_type *> &record_types() {
-  static const std::vector<const record_type *> rows = rows_of(zel::ravix::all_records{});
+  static const auto rows = []<class... R>(zel::ravix::type_list<R...> /*records*/) {
+    return std::vector<const record_type *>{&row_of<R>()...};
+  }(zel::ravix::all_records{});
   return rows;
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <set>
 #include <string>
@@ -96,7 +97,13 @@ private:
     return static_cast<heap *>(context)->request(nullptr, count, size, file, line);
   }
   static void *resize(void *context, void *ptr, std::size_t size, const char *file, int line) {
-    return static_cast<heap *>(context)->request(ptr, 1, size, file, line);
+    auto *self = static_cast<heap *>(context);
+    const std::size_t kept = self->size_of(ptr);
+    void *block = self->request(ptr, 1, size, file, line);
+    if (block != nullptr && size > kept) {
+      std::memset(static_cast<char *>(block) + kept, 0xA5, size - kept); // nobody may rely on what it holds
+    }
+    return block;
   }
   static void release(void *context, void *ptr, const char *file, int line) {
     auto *self = static_cast<heap *>(context);

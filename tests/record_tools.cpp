@@ -521,10 +521,13 @@ void trial::grow(const records &all) {
   for (std::uint32_t i = 0; i < count; ++i) {
     require(type.element->compare(type.at(all.dest, i), type.at(all.dest_twin, i), true) == 0, "the others remain");
   }
+  const void *added = type.at(all.dest, count);
   if (!is_added) {
+    const bool has_spare = code != 0 && heap.size_of(type.data(all.dest)) > count * blank.size();
+    const std::vector<std::byte> zeros(blank.size());
+    require(!has_spare || std::memcmp(added, zeros.data(), zeros.size()) == 0, "a spare entry is zero-filled");
     return;
   }
-  const void *added = type.at(all.dest, count);
   require(heap.size_of(type.data(all.dest)) == (count + 1) * blank.size(), "an array of the entries alone");
   require(is_hostile_ || type.element->compare(added, entry, true) == 0, "the entry is the same");
   if (succeeds([&] { return type.add_entry(all.dest, added) == 0; })) {

@@ -48,17 +48,17 @@ bool is_name(std::string_view text, std::int64_t value) {
 
 template <class Value> std::vector<named_value> values(const char *(*text)(Value)) {
   std::vector<named_value> found;
+  // Values that share a text, as all flags that are on, are listed by the first of them.
   const auto look = [&](std::int64_t first, std::int64_t last) {
     for (auto value = first; value <= last; ++value) {
-      if (const std::string shown = text(static_cast<Value>(value)); is_name(shown, value)) {
+      const std::string shown = text(static_cast<Value>(value));
+      if (is_name(shown, value) && (found.empty() || found.back().text != shown)) {
         found.push_back({static_cast<std::uint64_t>(value), shown});
       }
     }
   };
   constexpr std::int64_t most = 1023;
-  if constexpr (std::is_same_v<Value, bool>) {
-    look(0, 1);
-  } else if constexpr (std::is_signed_v<Value>) {
+  if constexpr (std::is_signed_v<Value>) {
     look(std::numeric_limits<Value>::min() + 1, std::numeric_limits<Value>::min() + most);
     look(-most, most);
   } else {

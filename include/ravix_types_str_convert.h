@@ -118,8 +118,8 @@ RAVIX_API const char *ravix_str_channel_info(const ravix_channel_info_t *value);
 
 /** Result code, `RAVIX_STATUS_...`. Any other value is taken as a negative errno value and shown as strerror() does. */
 RAVIX_API const char *ravix_str_status(int32_t status);
-/** "ON" or "OFF". */
-RAVIX_API const char *ravix_str_enabled(bool enabled);
+/** "OFF" for 0 and "ON" for any other value. */
+RAVIX_API const char *ravix_str_enabled(uint32_t enabled);
 /** `RAVIX_DEVICE_CLASS_...` */
 RAVIX_API const char *ravix_str_device_class(uint32_t value);
 /** `RAVIX_ENCRYPTION_...` */

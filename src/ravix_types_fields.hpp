@@ -334,7 +334,16 @@ template <class Kind, class R> failure transfer_field(const Kind &kind, const R 
   return {};
 }
 
-// Number, flag set, enumerated value, bool or pointer that is not owned.
+// The value of a field. Of a flag it is the octet: memory of a caller's may hold any, and to read a bool that is
+// neither 0 nor 1 is undefined.
+template <class T> auto value_of(const T &field) {
+  std::conditional_t<std::is_same_v<T, bool>, std::uint8_t, T> value;
+  static_assert(sizeof value == sizeof field);
+  std::memcpy(&value, &field, sizeof value);
+  return value;
+}
+
+// Number, flag set, enumerated value, flag or pointer that is not owned.
 template <class R, class T, class Text = decimal_text> struct scalar : plain_kind {
   T R::*member;
   Text text;
@@ -348,10 +357,14 @@ template <class R, class T, class Text = decimal_text> struct scalar : plain_kin
   template <class Visit> void members(const R &r, Visit visit) const { visit(r.*member); }
   void clear(R &r, call_site /*site*/) const { r.*member = empty; }
   failure copy(const R &src, R &dest, call_site /*site*/) const { return transfer_field(*this, src, dest); }
-  void transfer(const R &src, R &dest) const { dest.*member = src.*member; }
-  int compare(const R &a, const R &b) const { return a.*member == b.*member ? 0 : (a.*member < b.*member ? -1 : 1); }
+  void transfer(const R &src, R &dest) const { std::memcpy(&(dest.*member), &(src.*member), sizeof(T)); }
+  int compare(const R &a, const R &b) const {
+    const auto left = value_of(a.*member);
+    const auto right = value_of(b.*member);
+    return left == right ? 0 : (left < right ? -1 : 1);
+  }
   template <class Out> void print(Out &out, const R &r) const {
-    print_value(out, r.*member, text);
+    print_value(out, value_of(r.*member), text);
     out.text(unit);
   }
 };

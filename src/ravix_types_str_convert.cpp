@@ -493,8 +493,8 @@ const char *ravix_str_status(int32_t status) {
   return std::strerror(static_cast<int>(0U - static_cast<uint32_t>(status))); // NOLINT(concurrency-mt-unsafe)
 }
 
-const char *ravix_str_enabled(bool enabled) {
-  return find_name(enabled_names, enabled ? 1 : 0);
+const char *ravix_str_enabled(uint32_t enabled) {
+  return find_name(enabled_names, enabled != 0 ? 1 : 0);
 }
 
 // A formatter per list of names.

@@ -26,12 +26,13 @@ std::uint32_t randomness::up_to(std::uint32_t most) {
 }
 
 void randomness::bytes(void *memory, std::size_t size) {
-  std::generate_n(static_cast<unsigned char *>(memory), size,
-                  [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
+  auto *octets = static_cast<unsigned char *>(memory);
+  std::generate(octets, octets + size,
+                [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
 }
 
 void randomness::word(char *to, std::size_t longest) {
-  std::generate_n(to, some(static_cast<std::uint32_t>(longest)), [&] { return static_cast<char>('a' + up_to(25)); });
+  std::generate(to, to + some(static_cast<std::uint32_t>(longest)), [&] { return static_cast<char>('a' + up_to(25)); });
 }
 
 namespace {
@@ -48,7 +49,8 @@ template <class T> void fill_value(T &value, randomness &random) {
     random.word(text, 40);
     value = random.absent() ? nullptr : slab_dstrdup(text, "tests", __LINE__);
   } else if constexpr (std::is_same_v<T, bool>) {
-    value = random.up_to(1) == 1;
+    const auto flag = static_cast<std::uint8_t>(random.up_to(random.kind == variety::hostile ? UINT8_MAX : 1));
+    std::memcpy(&value, &flag, sizeof value);
   } else if constexpr (std::is_same_v<T, float>) {
     value = static_cast<float>(random.up_to(10000)) / 8;
   } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
@@ -84,7 +86,7 @@ template <class T> int compare_values(const T &a, const T &b, bool strictly) {
     return compare_arrays(a, length, b, length, strictly);
   } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
     return compare_arrays(a, 1, b, 1, strictly);
-  } else if constexpr (std::is_scalar_v<T>) {
+  } else if constexpr (std::is_scalar_v<T> && !std::is_same_v<T, bool>) { // a flag may be any octet
     return (a > b) - (a < b);
   } else {
     return std::memcmp(&a, &b, sizeof a);

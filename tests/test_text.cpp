@@ -184,7 +184,7 @@ TEST(Area, TextsHaveAllTheirDigitsAndFollowEachOtherToTheLastCharacter) {
     // Fixed words take no place.
     static_cast<void>(std::array{ravix_str_frequency(0), ravix_str_power(32767), ravix_str_percentage(255),
                                  ravix_str_index(INT32_MIN), ravix_str_id(-2), ravix_str_timestamp(INT64_MAX),
-                                 ravix_str_sta_state(1), ravix_str_enabled(true), ravix_str_status(0)});
+                                 ravix_str_sta_state(1), ravix_str_enabled(1), ravix_str_status(0)});
     const auto n = static_cast<std::uint32_t>(random() >> random() % 64);
     const auto power = static_cast<std::int32_t>(n != 32767 ? n : 0);
     const char *const texts[] = {ravix_str_bitrate(n), ravix_str_power(power), ravix_str_capabilities(n),

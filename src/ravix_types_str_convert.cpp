@@ -37,17 +37,24 @@ bool is_null(const void *pointer, const char *argument, call_site site = here) {
 
 // --- Building texts ---
 
+// Publishes a text that has been built elsewhere.
+const char *publish(std::string_view text) {
+  const std::lock_guard lock(format_mutex);
+  (void)format_buffer.try_append(text); // never cut: the area is many times as large as any such text
+  return format_buffer.finish();
+}
+
 // Publishes the text that `build` writes: it gets a place for at most `Most` characters and returns their end. The text
-// grows where it is to stay, unless the area's end is so near that it might not fit. Always
-// inlined, since out of line the values would have to be handed over through memory, at a sixth of the whole cost.
+// grows where it is to stay, unless the area's end is so near that it might not fit; so `build` must change no
+// character past the end but the next one, where the terminator goes: older texts lie there. Always inlined, since out
+// of line the values would have to be handed over through memory, at a sixth of the whole cost.
 template <std::size_t Most, class Build> [[gnu::always_inline]] inline const char *build_text(Build build) {
   const std::lock_guard lock(format_mutex);
   if (char *place = format_buffer.room_for(Most); place != nullptr) [[likely]] {
     format_buffer.advance_to(build(place));
   } else {
     char text[Most];
-    // Never cut: the area is many times as large as any such text.
-    (void)format_buffer.try_append({text, static_cast<std::size_t>(build(text) - text)});
+    (void)format_buffer.try_append({text, static_cast<std::size_t>(build(text) - text)}); // never cut, as above
   }
   return format_buffer.finish();
 }
@@ -138,11 +145,21 @@ constexpr auto octet_digits = [] {
   return text;
 }();
 
-// "%u"; writes up to 4 characters.
+// "%u" of an octet that another character follows, which is overwritten.
 char *put_number(char *out, std::uint8_t octet) {
   const char *text = &octet_digits[std::size_t{4} * octet];
   std::memcpy(out, text, 4);
   return out + text[3];
+}
+
+// The same of the last octet of a text: two characters, and the last two of three.
+char *put_last_number(char *out, std::uint8_t octet) {
+  const char *text = &octet_digits[std::size_t{4} * octet];
+  const std::size_t length = static_cast<unsigned char>(text[3]);
+  const std::size_t third = length / 3;
+  std::memcpy(out, text, 2);
+  std::memcpy(out + third, text + third, 2);
+  return out + length;
 }
 
 constexpr char upper_hex[] = "0123456789ABCDEF";
@@ -227,19 +244,19 @@ template <class Shown> const char *name_or_number(const value_list &names, Shown
 // Characters of the longest set of flags.
 constexpr std::size_t flags_most = 320;
 
+// Copies the block of each name, since a copy of fixed size is a few instructions; so it builds in a place of its own.
 template <class Mask> const char *flags_text(const name_list<Mask> &names, Mask value) {
-  return build_text<flags_most>([&](char *out) {
-    out = put(out, "[ ");
-    for (std::size_t i = 0; i < names.count; ++i) {
-      if ((names.values[i] & ~value) == 0) {
-        // All of the block, since a copy of fixed size is a few instructions.
-        std::memcpy(out, names.name(i), name_block);
-        out += names.length(i);
-        *out++ = ' ';
-      }
+  char text[flags_most];
+  char *out = put(text, "[ ");
+  for (std::size_t i = 0; i < names.count; ++i) {
+    if ((names.values[i] & ~value) == 0) {
+      std::memcpy(out, names.name(i), name_block);
+      out += names.length(i);
+      *out++ = ' ';
     }
-    return put(out, "]");
-  });
+  }
+  out = put(out, "]");
+  return publish({text, static_cast<std::size_t>(out - text)});
 }
 
 template <class Mask, std::size_t Count, std::size_t Characters>
@@ -397,11 +414,11 @@ const char *ravix_str_ip_addr(const ravix_ip_addr_t *value) {
   switch (value->version) {
   case RAVIX_IP_VERSION_4:
     return build_text<4 * digits>([&](char *out) {
-      for (unsigned i = 0; i < 4; ++i) {
+      for (unsigned i = 0; i < 3; ++i) {
         out = put_number(out, octet[i]);
         *out++ = '.';
       }
-      return out - 1;
+      return put_last_number(out, octet[3]);
     });
   case RAVIX_IP_VERSION_6:
     return build_text<8 * digits>([&](char *out) {

@@ -1,6 +1,7 @@
 // Texts of values, names and flags as they stand in tests/data/texts.golden and names.golden, with clocks and a time
 // zone of their own and in a locale with a decimal comma; and the area that all texts share.
 #include "ravix_types_str_convert.h"
+#include "ravix_types_util.h"
 
 #include "golden.hpp"
 #include "harness.hpp"
@@ -81,12 +82,14 @@ const std::locale replaced = [] {
   return std::locale::global(std::locale(std::locale::classic(), new decimal_comma));
 }();
 
+std::string_view latest; // text, where it lies
+
 // What a formatter makes of its arguments; for a text it may not allocate, for a log line it may.
 template <class Format, class... Arguments> std::string text_by(Format format, Arguments... arguments) {
   const std::size_t before = allocations;
-  const std::string_view text = format(arguments...);
-  EXPECT_TRUE(allocations == before || text.empty()) << text;
-  return std::string(text);
+  latest = format(arguments...);
+  EXPECT_TRUE(allocations == before || latest.empty()) << latest;
+  return std::string(latest);
 }
 
 // The formatters of a single number, whatever its type.
@@ -115,6 +118,28 @@ const formatters more_names = {NAMED(id),
 const formatters flags = {
     NAMED(mlo_mode),      NAMED(features),           NAMED(wlan_mode),         NAMED(capabilities),
     NAMED(channel_state), NAMED(channel_user_flags), NAMED(event_log_control), NAMED(channel_capabilities)};
+
+// The formatters of a record, of octets that follow from a number; the first is a small one as often as not.
+template <class Value> formatters::value_type of_octets(const char *what, const char *(*format)(const Value *)) {
+  return {what, [format](std::uint64_t value) {
+            std::mt19937_64 random(value);
+            std::array<std::uint64_t, 6> octets{};
+            std::ranges::generate(octets, std::ref(random));
+            *reinterpret_cast<std::uint8_t *>(octets.data()) &= value % 2 == 0 ? 3 : UINT8_MAX;
+            return text_by(format, reinterpret_cast<const Value *>(octets.data()));
+          }};
+}
+const formatters records = {of_octets("mac", ravix_str_mac),
+                            of_octets("uuid", ravix_str_uuid),
+                            of_octets("ip_addr", ravix_str_ip_addr),
+                            of_octets<ravix_ssid_t>("ssid", [](auto *ssid) { return ravix_str_ssid(ssid, false); }),
+                            of_octets<ravix_ssid_t>("ssid_hex", [](auto *ssid) { return ravix_str_ssid(ssid, true); }),
+                            of_octets<ravix_channel_info_t>("channel", [](auto *channel) {
+                              ravix_channel_info_t valid = *channel; // others are logged
+                              ravix_create_channel_info(5180000 + channel->primary_freq % 4 * 20000,
+                                                        RAVIX_CHANNEL_WIDTH_80, false, 0, &valid);
+                              return ravix_str_channel_info(&valid);
+                            })};
 
 // Makes a call that is written as in the golden file.
 std::string answer(const std::string &call) {
@@ -196,6 +221,37 @@ TEST(Area, TextsHaveAllTheirDigitsAndFollowEachOtherToTheLastCharacter) {
       const bool fits = follows + std::strlen(text) < area + 4096;
       ASSERT_TRUE(text == (fits ? follows : area) || i < 100) << text;
       follows = text + std::strlen(text) + 1;
+    }
+  }
+}
+
+// A text changes nothing but its own place, whatever it is and whatever lies there; and one that comes to lie at the
+// area's begin, nothing but that and what is left behind the text before it.
+TEST(Area, ATextChangesNothingBehindItsEnd) {
+  std::mt19937_64 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same values in each run
+  const char *place = ravix_str_bitfield_64(0), *begin = place;
+  for (int i = 0; i < 200; ++i) {
+    place = ravix_str_bitfield_64(0);
+    begin = std::min(begin, place);
+  }
+  place += 65;
+  const char *const end = begin + 4096;
+  for (int i = 0; i < 100; ++i) {
+    for (const formatters *group : {&measures, &names, &more_names, &flags, &records}) {
+      for (const auto &[what, text_of] : *group) {
+        constexpr char other = '\x80';                       // than all characters of texts
+        std::memset(const_cast<char *>(begin), other, 4096); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+        text_of(random() >> random() % 64);
+        const auto is_other = [](const char *from, const char *to) {
+          return std::all_of(from, to, [](char c) { return c == other; });
+        };
+        const bool is_fixed = latest.data() < begin || latest.data() >= end; // takes no place
+        const char *text = is_fixed ? end : latest.data(), *behind = is_fixed ? end : text + latest.size() + 1;
+        const bool has_moved = text == begin && place != begin;
+        ASSERT_TRUE(is_fixed || has_moved || text == place) << what << ": " << latest;
+        ASSERT_TRUE(is_other(begin, text) && is_other(behind, has_moved ? place : end)) << what << ": " << latest;
+        place = is_fixed ? place : behind;
+      }
     }
   }
 }

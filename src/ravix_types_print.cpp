@@ -25,6 +25,9 @@ template <std::size_t Size, class... Arguments> digits<Size, Arguments...> digit
 } // namespace
 
 void printer::flush() {
+  if (used_ == 0) {
+    return; // even a write of nothing would flush what is tied to the stream, and fail on a stream that has failed
+  }
   stream_.write(buffer_.data(), static_cast<std::streamsize>(used_));
   used_ = 0;
 }

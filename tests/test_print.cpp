@@ -308,6 +308,39 @@ TEST(Streams, KeepTheirFormatWhichIsNotHeededAndStayFailed) {
   }
 }
 
+// Counts whatever is done to it.
+class touched_buffer : public std::streambuf {
+public:
+  int touches = 0;
+
+private:
+  int sync() override { return ++touches, 0; }
+  int_type overflow(int_type character) override { return ++touches, character; }
+  std::streamsize xsputn(const char * /*text*/, std::streamsize count) override { return ++touches, count; }
+};
+
+// Neither written to nor flushed, as std::cerr and what is tied to a stream would be by writing nothing, nor asked for
+// its state.
+TEST(Streams, AreLeftAloneByValuesThatAreEqual) {
+  for (const harness::record_type *type : harness::record_types()) {
+    const harness::any_sample r(*type, randomness(1, variety::full));
+    if (type->print_diff == nullptr) {
+      continue;
+    }
+    ASSERT_EQ(type->compare(r, r), 0) << type->name;
+    touched_buffer buffer, tied_buffer;
+    std::ostream stream(&buffer), tied(&tied_buffer);
+    stream.tie(&tied);
+    stream << std::unitbuf;
+    type->print_diff(stream, r, r, "value");
+    stream.setstate(std::ios_base::eofbit);
+    stream.exceptions(std::ios_base::failbit);
+    EXPECT_NO_THROW(type->print_diff(stream, r, r, "value"));
+    EXPECT_EQ(buffer.touches + tied_buffer.touches, 0) << type->name;
+    EXPECT_EQ(stream.rdstate(), std::ios_base::eofbit) << type->name;
+  }
+}
+
 TEST(Streams, GetTheirFormatBackFromTheGuardEvenWhenTheyFailed) {
   for (const bool fails : {false, true}) {
     std::ostringstream stream;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cstring>
 #include <string_view>
 
 namespace {
@@ -50,7 +51,7 @@ void ravix_cfg_auto_update_rule_clear(ravix_cfg_auto_update_rule_t *obj) {
   if (obj->type > RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE) {
     zel::ravix::rule_tag::log_rejected(*obj, here);
   }
-  zel::ravix::clear_tagged(*obj, here);
+  std::memset(obj, 0, sizeof *obj); // all of it, padding included; no kind of rule owns anything
 }
 
 int ravix_cfg_auto_update_rule_map_key_compare(const ravix_cfg_auto_update_rule_t *a,

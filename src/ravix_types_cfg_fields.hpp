@@ -46,6 +46,11 @@ template <class Tag, class Wide, class Other> struct tagged {
     use(r, [&](const auto &field) { field.clear(r, site); });
     r.*(wide.member) = {};
   }
+  bool copyable(const R &src) const {
+    bool may = false;
+    use(src, [&](const auto &field) { may = field.copyable(src); });
+    return may;
+  }
   failure copy(const R &src, R &dest, call_site site) const {
     failure failed{nullptr, invalid_argument};
     if (Tag::of(src) == alternative::none) {
@@ -367,6 +372,7 @@ template <class R, class T> struct role_config : owned<R, T> {
   constexpr role_config(T *R::*field, const char *field_name, const char *asserted)
       : owned<R, T>(field, field_name), assertion(asserted) {}
 
+  bool copyable(const R &src) const { return src.*(this->member) != nullptr && owned<R, T>::copyable(src); }
   failure copy(const R &src, R &dest, call_site site) const {
     const T *config = src.*(this->member);
     if (config == nullptr) {

@@ -5,6 +5,7 @@
 //
 //   members(r, visit)             calls visit for each structure member that the kind covers
 //   clear(r, site)                releases what the field owns, gives it its empty value
+//   copyable(src)                 tells whether the value may be copied, memory permitting
 //   copy(src, dest, site)         copies into the cleared field; a failure names the message and the result
 //   compare(a, b)                 negative, 0 or positive
 //   print(out, r)                 the value's text, on one line
@@ -12,7 +13,6 @@
 //
 // A field whose record owns nothing (is_flat) has besides:
 //
-//   copyable(src)                 tells whether the value may be copied
 //   transfer(src, dest)           copies a copyable value over whatever dest holds
 //   settle(src, dest)             the rest of that where dest has the bytes of src already: empties those past the end
 //
@@ -182,7 +182,7 @@ template <class R> int record_copy(const R *src, R *dest, call_site site) {
     return code;
   }
   if (src == dest) [[unlikely]] {
-    return success;
+    return copyable_fields(*src) ? success : refuse(site, copy_error(invalid_argument).message);
   }
   if constexpr (!is_flat<R>()) {
     record<R>::clear(dest);
@@ -227,6 +227,7 @@ template <has_record R> struct element<R> {
     }
   }
 
+  static bool copyable(const R &src) { return copyable_fields(src); }
   static int compare(const R *a, const R *b) { return compare_fields(*a, *b); }
 };
 
@@ -512,6 +513,8 @@ struct owning_kind {
   static constexpr bool is_flat = false;
   static constexpr bool is_secret = false;
   const char *name;
+
+  template <class R> static bool copyable(const R & /*src*/) { return true; }
 };
 
 // Pointer to a record that is owned, or null.
@@ -525,6 +528,7 @@ template <class R, class T> struct owned : owning_kind {
     record<T>::free(r.*member);
     r.*member = nullptr;
   }
+  bool copyable(const R &src) const { return src.*member == nullptr || copyable_fields(*(src.*member)); }
   failure copy(const R &src, R &dest, call_site /*site*/) const {
     if (src.*member == nullptr) {
       return {};
@@ -624,6 +628,7 @@ template <class T, class E, class Text = decimal_text> struct entries : owning_k
     visit(t.*data);
   }
   void clear(T &t, call_site /*site*/) const { generic_table_clear(&t); }
+  bool copyable(const T &src) const { return table::copyable(src); }
   failure copy(const T &src, T &dest, call_site site) const {
     const int code = generic_table_copy(&src, &dest, site.file);
     return code == success ? failure{} : copy_error(code);

@@ -6,6 +6,7 @@
 
 #include "ravix_types_generic_simple.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -39,6 +40,15 @@ inline constexpr const char *source = "src/ravix_types_generic_table";
 // A table that has no array has no elements, whatever its count says.
 template <class T> std::uint32_t elements(const T &table) {
   return table.data != nullptr ? table.count : 0;
+}
+
+// Whether all elements may be copied.
+template <class T> bool copyable(const T &table) {
+  using E = element_of<T>;
+  if constexpr (requires(const E &e) { element<E>::copyable(e); }) {
+    return std::all_of(table.data, table.data + elements(table), element<E>::copyable);
+  }
+  return true;
 }
 
 // The functions below do what is alike for all tables, and speak in the name of the operation that they are part of.
@@ -170,7 +180,11 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   if (const int code = table::check_copy_arguments(src, dest, family); code != success) [[unlikely]] {
     return code;
   }
-  if (src == dest) {
+  if (src == dest) [[unlikely]] {
+    if (!table::copyable(*src)) {
+      log_error({family, __func__}, "Copy error!");
+      return invalid_argument;
+    }
     return success;
   }
   using E = element_of<T>;

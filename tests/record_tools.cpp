@@ -4,6 +4,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
 #include <sstream>
 #include <string_view>
 #include <type_traits>
@@ -326,6 +331,28 @@ template <class R> const record_type &row_of() {
   return row;
 }
 
+// What the public headers declare for a record: what the names of its operations begin with, and its family's source.
+struct declaration {
+  std::string prefix, source;
+};
+
+// By the names of the structures.
+const std::map<std::string, declaration> &declared_operations() {
+  static const auto found = [] {
+    std::map<std::string, declaration> all;
+    const std::regex copy(R"((\w+)_copy\(const (\w+)_t \*src)");
+    for (const auto &header : std::filesystem::directory_iterator(RAVIX_INCLUDE)) {
+      std::ifstream file(header.path());
+      const std::string text{std::istreambuf_iterator<char>(file), {}};
+      for (std::sregex_iterator match(text.begin(), text.end(), copy), end; match != end; ++match) {
+        all[(*match)[2]] = {(*match)[1], "src/" + header.path().stem().string()};
+      }
+    }
+    return all;
+  }();
+  return found;
+}
+
 } // namespace
 
 const std::vector<const record_type *> &record_types() {
@@ -366,6 +393,14 @@ std::string record_type::difference(const void *a, const void *b) const {
   return found != fields.end() ? found->name : "";
 }
 
+std::string record_type::site(const std::string &operation) const {
+  const auto &[prefix, source] = declared_operations().at(name);
+  const bool is_bare_table = element != nullptr && fields.size() == 1;
+  const bool is_exported = operation == "copy" && !is_bare_table;
+  const bool is_of_tables = element != nullptr && operation != "clone";
+  return source + " " + (is_exported ? prefix + "_" : is_of_tables ? "generic_table_" : "generic_") + operation;
+}
+
 int record_type::order(const void *a, const void *b, bool strictly) const {
   return first_order(fields, [&](const field_type &field) {
     return strictly || field.is_compared ? field.compare(a, b, strictly) : 0;
@@ -385,8 +420,12 @@ void trial::require(bool holds, const char *invariant) {
   }
 }
 
+bool is_told_by(const std::vector<log_line> &lines, const std::string &site) {
+  return std::ranges::any_of(lines, [&](const log_line &line) { return line.file + " " + line.function == site; });
+}
+
 // Runs an operation; tells whether it succeeded and did so in full.
-bool trial::succeeds(const std::function<bool()> &operation) {
+bool trial::succeeds(const std::string &name, const std::function<bool()> &operation) {
   log.take();
   onward_ ? heap.fail_from(k_) : heap.fail_only(k_);
   const bool succeeded = operation();
@@ -405,14 +444,17 @@ bool trial::succeeds(const std::function<bool()> &operation) {
   require(!failed || !lines.empty(), "a failed request is told");
   require(failed || lines.empty() || is_hostile_, "nothing is told without need");
   require(succeeded == (lines.empty() || text_lost), "an operation that fails says so");
+  require(succeeded || type_ == nullptr || is_told_by(lines, type_->site(name)), "and where");
   return succeeded && lines.empty();
 }
 
 bool trial::run(const std::function<bool()> &operation, std::size_t k, bool onward) {
+  type_ = nullptr;
+  is_hostile_ = false;
   k_ = k;
   onward_ = onward;
   reached_ = false;
-  succeeds(operation);
+  succeeds("", operation);
   return reached_;
 }
 
@@ -454,14 +496,16 @@ void trial::copy(const records &all) {
   const record_type &type = *type_;
   require(is_hostile_ || type.compare == nullptr || type.compare(all.source, all.source) == 0, "equal to itself");
   void *clone = nullptr;
-  const bool is_cloned = succeeds([&] { return (clone = type.clone(all.source)) != nullptr; });
+  const bool is_cloned = succeeds("clone", [&] { return (clone = type.clone(all.source)) != nullptr; });
   int code = 0;
-  const bool is_copied = succeeds([&] { return (code = type.copy(all.source, all.dest)) == 0; });
+  const bool is_copied = succeeds("copy", [&] { return (code = type.copy(all.source, all.dest)) == 0; });
   const bool is_empty = type.difference(all.dest, all.empty).empty();
   const bool is_refused = code == -22 && is_hostile_;
   require(code == 0 || code == -12 || code == RAVIX_FAIL_GENERAL || is_refused, "the result of a copy");
   const int self_code = type.copy(all.source, all.source); // goes by the value alone, whatever memory is left
+  const auto lines = log.take();
   require(k_ != 0 || self_code == (code == 0 ? 0 : -22), "a copy onto itself is refused as any other");
+  require(self_code == 0 ? lines.empty() : lines.size() == 1 && is_told_by(lines, type.site("copy")), "in one line");
   require(code == 0 || is_empty || (is_refused && type.difference(all.dest, all.dest_twin).empty()), "all or nothing");
   require(type.difference(all.source, all.source_twin).empty(), "the source is unchanged");
   require(!is_cloned || !is_copied || type.difference(clone, all.dest).empty(), "copies are the same");
@@ -496,7 +540,7 @@ void trial::grow(const records &all) {
   };
   for (const std::uint32_t count : {0U, 3U}) {
     void *made = nullptr;
-    if (succeeds([&] { return (made = type.create(count)) != nullptr; })) {
+    if (succeeds("create", [&] { return (made = type.create(count)) != nullptr; })) {
       require(heap.size_of(made) == type.size && is_new(made, count), "a new record is empty");
     }
     type.free(made);
@@ -506,7 +550,7 @@ void trial::grow(const records &all) {
   }
   int code = 0;
   const any_sample table(type, 1);
-  if (succeeds([&] { return (code = type.init(table, 3)) == 0; })) {
+  if (succeeds("init", [&] { return (code = type.init(table, 3)) == 0; })) {
     require(is_new(table, 3), "new elements are empty");
   }
   require(code == 0 || (code == -12 && *type.count(table) == 0), "the result of an initialisation");
@@ -516,7 +560,7 @@ void trial::grow(const records &all) {
     return;
   }
   const std::uint32_t count = *type.count(all.dest);
-  const bool is_added = succeeds([&] { return (code = type.add_entry(all.dest, entry)) == 0; });
+  const bool is_added = succeeds("add_entry", [&] { return (code = type.add_entry(all.dest, entry)) == 0; });
   require(code == 0 || code == -12 || is_hostile_, "the result of an addition");
   require(*type.count(all.dest) == count + (code == 0 ? 1 : 0), "an entry more");
   for (std::uint32_t i = 0; i < count; ++i) {
@@ -531,7 +575,7 @@ void trial::grow(const records &all) {
   }
   require(heap.size_of(type.data(all.dest)) == (count + 1) * blank.size(), "an array of the entries alone");
   require(is_hostile_ || type.element->compare(added, entry, true) == 0, "the entry is the same");
-  if (succeeds([&] { return type.add_entry(all.dest, added) == 0; })) {
+  if (succeeds("add_entry", [&] { return type.add_entry(all.dest, added) == 0; })) {
     require(type.element->compare(type.at(all.dest, count), type.at(all.dest, count + 1), true) == 0,
             "an entry of the table itself");
   }

@@ -111,6 +111,10 @@ struct record_type {
   void fill_table(void *table, std::uint32_t count, randomness &random) const;
   // Name of the first field that differs strictly; "" for records that are the same and share nothing.
   std::string difference(const void *a, const void *b) const;
+  // "<source path> <function>" of the line that tells of a failed operation: "create", "copy" and so on. The public
+  // header that declares the operation names the path, and the function is the exported one, or the template that all
+  // records or tables share.
+  std::string site(const std::string &operation) const;
   // What a comparison should give.
   int order(const void *a, const void *b, bool strictly = false) const;
   void *at(const void *table, std::size_t i) const { return static_cast<char *>(data(table)) + i * element->size; }
@@ -139,7 +143,8 @@ private:
 // Puts records through every operation, each with its k-th request for memory failed, alone or with all that follow:
 //
 // - A clone and a copy are the same as their source, share nothing with it and outlive it. An operation that fails says
-//   so in its result and in the log, and leaves its destination empty or as it was; nothing else is logged.
+//   so in its result and in the log, under its own name, and leaves its destination empty or as it was; nothing else is
+//   logged.
 // - Printing logs nothing, writes text alone, and a difference print is empty if and only if the records are equal.
 // - New elements and cleared records are empty, and a table gains an entry at a time. Blocks have just the size of what
 //   they hold. The source is never changed, and no block is left in the end.
@@ -161,7 +166,7 @@ private:
   void grow(const records &all);
   void print(const records &all);
   void require(bool holds, const char *invariant);
-  bool succeeds(const std::function<bool()> &operation);
+  bool succeeds(const std::string &name, const std::function<bool()> &operation);
 
   const record_type *type_ = nullptr;
   bool is_hostile_ = false, onward_ = false, reached_ = false;

@@ -5,27 +5,25 @@
 
 namespace zel::logging {
 
+// The stand-in takes lines of any length, so it never asks an adapter for a bound.
 int get_default_clogger_chunking(const std::string & /*logger_name*/) {
   return 0;
 }
 
 class ClogStreamBuf::Lines : public std::streambuf {
 public:
-  explicit Lines(std::unique_ptr<ClogAdapterBase> adapter)
-      : adapter_(std::move(adapter)), chunk_(static_cast<std::size_t>(adapter_->get_logger_chunking())) {}
+  explicit Lines(std::unique_ptr<ClogAdapterBase> adapter) : adapter_(std::move(adapter)) {}
 
 protected:
   int_type overflow(int_type character) override {
     if (!traits_type::eq_int_type(character, traits_type::eof())) {
-      put(traits_type::to_char_type(character));
+      line_ += traits_type::to_char_type(character);
     }
     return traits_type::not_eof(character);
   }
 
   std::streamsize xsputn(const char *text, std::streamsize count) override {
-    for (std::streamsize i = 0; i < count; ++i) {
-      put(text[i]);
-    }
+    line_.append(text, static_cast<std::size_t>(count));
     return count;
   }
 
@@ -33,26 +31,14 @@ protected:
   int sync() override {
     if (line_.ends_with('\n')) {
       line_.pop_back();
-      hand_over();
+      adapter_->write(line_.c_str());
+      line_.clear();
     }
     return 0;
   }
 
 private:
-  void put(char character) {
-    line_ += character;
-    if (chunk_ != 0 && line_.size() == chunk_) {
-      hand_over();
-    }
-  }
-
-  void hand_over() {
-    adapter_->write(line_.c_str());
-    line_.clear();
-  }
-
   std::unique_ptr<ClogAdapterBase> adapter_;
-  std::size_t chunk_;
   std::string line_;
 };
 

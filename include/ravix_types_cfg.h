@@ -42,15 +42,15 @@ typedef struct ravix_cfg_debug_settings {
   char *trace_parameter; /**< Argument of the trace: an owned, zero-terminated text, or null. */
 } ravix_cfg_debug_settings_t;
 
-/** Who may steer clients in a mesh. Owns nothing. */
+/** Steering in a mesh. Owns nothing. */
 typedef struct ravix_cfg_meshd_settings {
-  bool band_steering;     /**< Clients are moved between bands. */
-  bool backhaul_steering; /**< Repeaters are moved between uplinks. */
+  bool band_steering;     /**< Band steering. */
+  bool backhaul_steering; /**< Backhaul steering. */
 } ravix_cfg_meshd_settings_t;
 
 /** Time control of the whole device. Owns nothing. */
 typedef struct ravix_cfg_time_control {
-  bool forced_off; /**< WLAN is off because the time table says so. */
+  bool forced_off; /**< Forced off. */
 } ravix_cfg_time_control_t;
 
 /** How a repeater treats its own access points. Owns nothing. */
@@ -405,8 +405,8 @@ RAVIX_API int ravix_cfg_auto_update_feature_compare(const ravix_cfg_auto_update_
  *  Every operation goes by the rule's `type`. A rule of no type cannot be copied or cloned, though it can be cleared
  *  in silence: copying any type but the two real ones writes "Invalid update rule type '<n>'" and a line "ASSERT:
  *  !"Invalid update rule type"" of the default logger, leaves `dest` empty and returns -22. Clearing a rule of an
- *  unknown type writes the same two lines and empties the rule. Compared by `enabled`, `type` and what the type says;
- *  two rules of one other type differ in `enabled` at most.
+ *  unknown type writes the same two lines and empties the rule. A cleared rule is zero as a whole, padding included.
+ * Compared by `enabled`, `type` and what the type says; two rules of one other type differ in `enabled` at most.
  *  @{ */
 RAVIX_API ravix_cfg_auto_update_rule_t *ravix_cfg_auto_update_rule_create(void);
 RAVIX_API ravix_cfg_auto_update_rule_t *ravix_cfg_auto_update_rule_clone(const ravix_cfg_auto_update_rule_t *old_obj);
@@ -467,8 +467,8 @@ RAVIX_API int ravix_cfg_wlan_wps_compare(const ravix_cfg_wlan_wps_t *a, const ra
 /** @} */
 
 /** @name RADIUS server
- *  Compared by port, address and secret, without regard to `index`. A server without a valid address equals none, not
- *  even itself; see ravix_types_ip_addr_compare().
+ *  Compared by port, address and secret, up to the end of its text, without regard to `index`. A server without a valid
+ * address equals none, not even itself; see ravix_types_ip_addr_compare().
  *  @{ */
 RAVIX_API ravix_cfg_radius_server_t *ravix_cfg_radius_server_create(void);
 RAVIX_API ravix_cfg_radius_server_t *ravix_cfg_radius_server_clone(const ravix_cfg_radius_server_t *old_obj);
@@ -498,7 +498,7 @@ RAVIX_API int ravix_cfg_radius_server_table_compare(const ravix_cfg_radius_serve
 /** @} */
 
 /** @name Security of a role
- *  Security whose key is longer than RAVIX_MAX_KEY_LEN cannot be copied (-22).
+ *  Security whose key is longer than RAVIX_MAX_KEY_LEN cannot be copied (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_cfg_wlan_security_t *ravix_cfg_wlan_security_create(void);
 RAVIX_API ravix_cfg_wlan_security_t *ravix_cfg_wlan_security_clone(const ravix_cfg_wlan_security_t *old_obj);
@@ -566,7 +566,7 @@ RAVIX_API int ravix_cfg_role_ap_time_control_compare(const ravix_cfg_role_ap_tim
 /** @} */
 
 /** @name Access point
- *  An access point whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22).
+ *  An access point whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_cfg_role_config_ap_t *ravix_cfg_role_config_ap_create(void);
 RAVIX_API ravix_cfg_role_config_ap_t *ravix_cfg_role_config_ap_clone(const ravix_cfg_role_config_ap_t *old_obj);
@@ -578,7 +578,7 @@ RAVIX_API int ravix_cfg_role_config_ap_compare(const ravix_cfg_role_config_ap_t 
 /** @} */
 
 /** @name Uplink of a station
- *  An uplink whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22).
+ *  An uplink whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_cfg_role_config_sta_uplink_t *ravix_cfg_role_config_sta_uplink_create(void);
 RAVIX_API ravix_cfg_role_config_sta_uplink_t *
@@ -592,6 +592,7 @@ RAVIX_API int ravix_cfg_role_config_sta_uplink_compare(const ravix_cfg_role_conf
 /** @} */
 
 /** @name Station
+ *  A station whose uplink cannot be copied cannot be, either (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_cfg_role_config_sta_t *ravix_cfg_role_config_sta_create(void);
 RAVIX_API ravix_cfg_role_config_sta_t *ravix_cfg_role_config_sta_clone(const ravix_cfg_role_config_sta_t *old_obj);
@@ -620,7 +621,7 @@ RAVIX_API int ravix_cfg_role_compare(const ravix_cfg_role_static_t *a, const rav
 /** @} */
 
 /** @name OWE transition
- *  One whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22).
+ *  One whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_cfg_owe_transition_t *ravix_cfg_owe_transition_create(void);
 RAVIX_API ravix_cfg_owe_transition_t *ravix_cfg_owe_transition_clone(const ravix_cfg_owe_transition_t *old_obj);

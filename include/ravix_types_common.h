@@ -9,10 +9,10 @@
  *
  * - `_create()` gives a new record in its empty state, or null when memory is exhausted.
  * - `_clone(old_obj)` gives a new deep copy, or null: null argument, memory exhausted, or a copy that fails.
- * - `_copy(src, dest)` makes `dest` a deep copy of `src`. What `dest` owned before is released. All or nothing: on
- *   failure `dest` is empty, except after an invalid argument, which leaves it as it was. Mind the order of the
- *   arguments. Copying a record onto itself is harmless: it changes nothing, and returns 0 unless the record itself
- *   refuses its value (an SSID that is too long).
+ * - `_copy(src, dest)` makes `dest` a deep copy of `src`. What `dest` owned before is released. Mind the order of the
+ *   arguments. All or nothing: on failure `dest` is empty. It is as it was only after a null argument, and where the
+ *   record is itself a key or an SSID that is too long. Copying a record or table onto itself changes nothing and
+ *   returns 0, or -22 with one log line if it could not be copied elsewhere either.
  * - `_clear(obj)` releases what the record owns and gives it its empty state: zero, null, or the value that the field's
  *   description names as "empty".
  * - `_free(obj)` clears the record and releases it. For records from `_create` and `_clone` only.
@@ -20,6 +20,12 @@
  *   counts. Null sorts before any record; two nulls are equal.
  *
  * `_clear` and `_free` accept null and never fail.
+ *
+ * **Flags.** A `bool` of a record is one octet: 0 is off, any other is on. A copy keeps the octet, and records are
+ * ordered by it.
+ *
+ * **Padding.** What lies between fields is unspecified, but for a cleared ravix_cfg_auto_update_rule_t, all of which is
+ * zero. So compare records by `_compare`, never as octets.
  *
  * **Ownership.** The caller owns what `_create` and `_clone` return. A record owns everything that its pointers refer
  * to, unless the field says otherwise; all of it comes from the platform allocator. Two records never share memory. A
@@ -36,16 +42,22 @@
  * # Tables {#tables}
  *
  * A table `ravix_<name>_table_t` is a counted array that the table owns: `data` has exactly `count` elements and is
- * null when the table is empty. Beside the operations above it has:
+ * null when the table is empty; only after an addition that was refused an empty table may have an array, so clear
+ * every table. Beside the operations above it has:
  *
  * - `_init(table, count)` releases what the table held and gives it `count` empty elements, which count: to be filled
- * in place. 0, -22 or -12.
+ *   in place. 0, -22 or -12.
  * - `_create(count)` gives a new table that has been initialised so, or null.
  * - `_add_entry(table, entry)` appends a deep copy of the entry. The array grows by exactly one element, so a table
  *   whose size is known is better made by `_create(count)`. 0, -22 (also: 4294967295 entries reached), -12, or the code
- *   of the entry's copy; the table is unchanged on failure.
+ *   of the entry's copy. On failure the table has the entries that it had; after an entry that cannot be copied its
+ *   array has room for one more, zero-filled, until the next addition.
  * - `_contains_entry(table, entry)` tells whether an element equals the entry, by a search from the start. Of a null
  *   argument: false and a log line.
+ *
+ * A table with a count and no array has no elements. `_init(table, 0)`, a copy into it and the addition of an entry
+ * that cannot be copied make its count 0; `_clear` leaves its count alone; `_compare` orders it by its count, below a
+ * table of as many elements.
  *
  * A table's `_copy` tests `src` for null before `dest`; a record's tests `dest` first.
  */

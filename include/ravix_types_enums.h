@@ -127,8 +127,8 @@ enum ravix_channel_width {
 #define RAVIX_CHANNEL_STATE_RADAR_FOUND UINT32_C(0x020) /**< DFS: blocked, a radar was found. */
 #define RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND UINT32_C(0x040) /**< Disturbed by something that is not WLAN. */
 #define RAVIX_CHANNEL_STATE_DFS_RESERVED UINT32_C(0x080)       /**< DFS: has no name and is never shown. */
-#define RAVIX_CHANNEL_STATE_1_MINUTE_OFF UINT32_C(0x100)       /**< DFS: check of one minute needed before use. */
-#define RAVIX_CHANNEL_STATE_10_MINUTES_OFF UINT32_C(0x200)     /**< DFS: check of ten minutes needed before use. */
+#define RAVIX_CHANNEL_STATE_1_MINUTE_OFF UINT32_C(0x100)       /**< Off for one minute; on any channel. */
+#define RAVIX_CHANNEL_STATE_10_MINUTES_OFF UINT32_C(0x200)     /**< Off for ten minutes; on any channel. */
 #define RAVIX_CHANNEL_STATE_PUNCTURED UINT32_C(0x400) /**< Left out of the channel in use (802.11be puncturing). */
 /** @} */
 

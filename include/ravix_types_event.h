@@ -81,11 +81,11 @@ typedef struct ravix_event_radar_detected {
   uint32_t flags;           /**< Flags of the daemon; they have no names here. */
 } ravix_event_radar_detected_t;
 
-/** A radio works on a temporary channel while it checks the wanted one for radar. Owns nothing. */
+/** A radio works on a temporary channel while a pre-CAC runs. Owns nothing. */
 typedef struct ravix_event_radar_precac {
   int32_t radio_id;      /**< The radio. */
-  uint32_t primary_freq; /**< Primary frequency of the wanted channel in kHz. */
-  uint32_t temp_freq;    /**< Primary frequency of the temporary channel in kHz. */
+  uint32_t primary_freq; /**< Primary frequency in kHz. */
+  uint32_t temp_freq;    /**< Frequency of the temporary channel in kHz. */
 } ravix_event_radar_precac_t;
 
 /** The state of a client has changed. Owns nothing. */

@@ -147,6 +147,9 @@ RAVIX_API std::ostream &operator<<(std::ostream &os, const radiod_hal_event_scan
  *  - `indent`: number of blanks before each line; each level of nesting adds one.
  *  - `newline`: whether the last line ends with a line break.
  *
+ *  A value that equals its reference leaves the stream alone: nothing is written, flushed or asked. A type-length-value
+ *  element with a length and no value has no rows of octets.
+ *
  *  A table is printed whole as soon as it differs at all, and only counted as too long beyond 50 short entries. A
  *  nested record ends its own lines, whatever `newline` says.
  *  @{ */

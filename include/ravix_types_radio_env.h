@@ -113,7 +113,7 @@ RAVIX_API void ravix_types_scan_parameter_free(ravix_scan_parameter_t *obj);
 /** @} */
 
 /** @name Scan entry
- *  An entry whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22).
+ *  An entry whose SSID is longer than RAVIX_MAX_SSID_LEN cannot be copied (-22, `dest` empty).
  *  @{ */
 RAVIX_API ravix_scan_entry_t *ravix_types_scan_entry_create(void);
 RAVIX_API ravix_scan_entry_t *ravix_types_scan_entry_clone(const ravix_scan_entry_t *old_obj);

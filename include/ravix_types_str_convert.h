@@ -5,11 +5,13 @@
  * # Formatters: ravix_str_... {#formatters}
  *
  * Every function returns a zero-terminated text that the caller neither owns nor frees. Fixed words ("INVALID", "ALL",
- * the names of values) are constants and stay valid. All other texts lie in one buffer of 4096 characters that the
+ * the names of values) are constants and stay valid. The texts of errno values that ravix_str_status() gives are the C
+ * library's, with a lifetime of their own: see there. All other texts lie in one buffer of 4096 characters that the
  * whole process shares and that rotates: a text stays readable until later formatting, in any thread, comes round to
  * it. So several results can be arguments of one log line, but a result that is needed for longer has to be copied.
  *
- * A formatter never fails and never allocates. What has no text is shown as the function's description says.
+ * A formatter never fails and never allocates (the C library may, for such an errno value). What has no text is shown
+ * as the function's description says.
  *
  * **Null pointers.** Where a function takes a pointer, a null one gives "" and an error-level line "Invalid pointer
  * 'value'!" of log module "ravix".
@@ -116,7 +118,9 @@ RAVIX_API const char *ravix_str_channel_info(const ravix_channel_info_t *value);
  *  Each function gives the name of a value, as the constants' own names end, or "<invalid value: <n>>".
  *  @{ */
 
-/** Result code, `RAVIX_STATUS_...`. Any other value is taken as a negative errno value and shown as strerror() does. */
+/** Result code, `RAVIX_STATUS_...`. Any other value is taken as a negative errno value and shown as strerror() does: by
+ *  a text of the C library's. It may be valid only until this thread's next call with such a value, or of strerror(),
+ *  and no longer than the thread; so not two of them in one printf(), but a copy of the first. */
 RAVIX_API const char *ravix_str_status(int32_t status);
 /** "OFF" for 0 and "ON" for any other value. */
 RAVIX_API const char *ravix_str_enabled(uint32_t enabled);

@@ -168,7 +168,8 @@ RAVIX_API uint16_t ravix_get_highest_channel_width_from_mode(uint32_t wlan_mode)
 RAVIX_API float ravix_rcpi_val_to_dBm(uint8_t rcpi);
 
 /**
- * dBm to received channel power indicator: 0 below -109.5 dBm, 220 from 0 dBm on and for NaN; never 255.
+ * dBm to received channel power indicator: 0 below -109.5 dBm, 220 from 0 dBm on and for NaN; never 255. A power so
+ * little below 0 dBm that the sum with 110 rounds to 110 gives 220, too.
  * @param dBm power
  * @return the code
  */
@@ -334,10 +335,11 @@ RAVIX_API int ravix_channel_is_clear(const ravix_channel_list_t *chan_list, cons
  * @param state_mask set of `RAVIX_CHANNEL_STATE_...` to avoid
  * @param ext_high the side that is tried first
  * @param max_width widest width to try; 0: no limit
- * @param channel_info receives the channel; all zero if there is none
- * @return 0; -2: not even the primary channel is clear; -22 with a log line: null argument (then nothing is written),
- * no entry or no width for the primary channel, or no such channel at a width that the entry claims to be capable of;
- * RAVIX_FAIL_GENERAL with a log line: the list could not be examined
+ * @param channel_info receives the channel; all zero after every failure but that of a null argument, which leaves it
+ * alone
+ * @return 0; -2: not even the primary channel is clear; -22 with a log line: null argument, or no entry or no width for
+ * the primary channel; -22 with two, the inner one first: no such channel at a width that the entry claims to be
+ * capable of; RAVIX_FAIL_GENERAL with two: the list could not be examined
  */
 RAVIX_API int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint32_t primary_freq,
                                                uint32_t state_mask, bool ext_high, uint16_t max_width,

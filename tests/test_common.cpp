@@ -144,7 +144,9 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
     add("a response with an SSID too long", ravix_types_get_scan_results_response_copy(&response.value, &dest.value));
     add("its table to itself", ravix_types_scan_table_copy(&networks, &networks));
     add("its table", ravix_types_scan_table_copy(&networks, &table.value));
+    table.value.count = 5; // of an array that is not there
     add("its entry added to another", ravix_types_scan_table_add_entry(&table.value, &networks.data[1]));
+    EXPECT_EQ(table.value.count, 0U);
   }
   const auto add_lengths = [&]<class T>(T source, std::uint8_t most) {
     harness::sample<T> dest;

@@ -195,8 +195,10 @@ template <class R> void add_all(outputs &golden, const std::vector<std::pair<std
 TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
   outputs golden;
   std::uint8_t octets[17] = {0x00, 0x7F, 0x80, 0xFF};
-  add_all<ravix_tlv_t>(golden,
-                       {{"none", {221, 0, nullptr}}, {"a row", {221, 16, octets}}, {"more", {221, 17, octets}}});
+  add_all<ravix_tlv_t>(golden, {{"none", {221, 0, nullptr}},
+                                {"hollow", {221, 16, nullptr}},
+                                {"a row", {221, 16, octets}},
+                                {"more", {221, 17, octets}}});
   const auto rule = [](std::uint32_t type) {
     ravix_cfg_auto_update_rule_t made;
     std::memset(&made, 0, sizeof made); // braces would leave what lies beyond the first member of the union

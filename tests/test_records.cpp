@@ -248,10 +248,16 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
   for_each_table([&](const record_type &type) {
     const any_sample hollow(type);
     const any_sample dest(type, 1);
+    const any_sample none(type);
     *type.count(hollow) = 5;
     EXPECT_EQ(type.copy(hollow, dest), 0);
     EXPECT_EQ(*type.count(dest), 0U);
+    EXPECT_EQ(type.copy(hollow, hollow), 0);
     type.clear(hollow);
+    EXPECT_EQ(*type.count(hollow), 5U);
+    EXPECT_TRUE(type.copy(none, hollow) == 0 && *type.count(hollow) == 0);
+    *type.count(hollow) = 5;
+    EXPECT_TRUE(type.init(hollow, 0) == 0 && *type.count(hollow) == 0);
     const any_sample source(type, randomness(2, variety::full));
     ASSERT_NE(*type.count(source), 0U);
     if (type.compare != nullptr) {

@@ -31,13 +31,12 @@ std::uint32_t randomness::up_to(std::uint32_t most) {
 }
 
 void randomness::bytes(void *memory, std::size_t size) {
-  auto *octets = static_cast<unsigned char *>(memory);
-  std::generate(octets, octets + size,
-                [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
+  std::generate_n(static_cast<unsigned char *>(memory), size,
+                  [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
 }
 
 void randomness::word(char *to, std::size_t longest) {
-  std::generate(to, to + some(static_cast<std::uint32_t>(longest)), [&] { return static_cast<char>('a' + up_to(25)); });
+  std::generate_n(to, some(static_cast<std::uint32_t>(longest)), [&] { return static_cast<char>('a' + up_to(25)); });
 }
 
 namespace {
@@ -77,7 +76,9 @@ template <class T> void fill_value(T &value, randomness &random) {
 // What the first of them that differs gives, or 0.
 template <class All, class Compare> int first_order(const All &all, Compare compare) {
   int order = 0;
-  std::ranges::find_if(all, [&](const auto &each) { return (order = compare(each)) != 0; });
+  for (auto each = std::begin(all); each != std::end(all) && order == 0; ++each) {
+    order = compare(*each);
+  }
   return order;
 }
 

@@ -1,245 +1,182 @@
-// Writes what the debugger's printers have to know, as JSON: which text shows which field of which record, and which of
-// two alternatives a record has. All of it is asked of the field lists and through them of the library's formatters, so
-// nothing is said here a second time.
+// Writes what the debugger's printers have to know, as JSON: the meaning of each field of each record, and which of two
+// alternatives a record has. All of it stands in the field lists and the meanings that they name.
 #include "ravix_types_all_fields.hpp"
 #include "ravix_types_util.h"
 
-#include <concepts>
-#include <cstdio>
+#include <cstdint>
 #include <iostream>
-#include <iterator>
-#include <limits>
 #include <map>
-#include <set>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <type_traits>
-#include <vector>
 
 namespace {
 
 using namespace zel::ravix;
 
-// What a field prints.
-struct collector {
-  std::string all;
-  void text(std::string_view piece) { all += piece; }
-  template <class T> void decimal(T number) { all += std::to_string(number); }
-};
-
 std::string quoted(std::string_view text) {
   std::string out = "\"";
   for (const char character : text) {
-    if (character == '"' || character == '\\') {
-      out += '\\';
-    }
+    out += character == '"' || character == '\\' ? "\\" : "";
     out += character;
   }
   return out + '"';
 }
 
-void replace(std::string &text, const std::string &what, const std::string &by) {
-  if (const auto at = text.find(what); at != std::string::npos) {
-    text.replace(at, what.size(), by);
+// A list or object, item by item.
+class json {
+public:
+  explicit json(std::string_view brackets, std::string_view separator = ", ")
+      : text_(1, brackets[0]), separator_(separator), end_(brackets[1]) {}
+  void add(const std::string &item) {
+    text_ += (text_.size() > 1 ? separator_ : "") + item;
   }
-}
+  void add(std::string_view key, const std::string &value) { add(quoted(key) + ": " + value); }
+  std::string text() const { return text_ + end_; }
 
-// The values that may have a text of their own.
-template <class T> std::vector<T> special_values() {
-  using limits = std::numeric_limits<T>;
-  if constexpr (std::same_as<T, bool>) {
-    return {false, true};
-  } else {
-    std::set<T> values;
-    for (int i = 0; i < 256; ++i) {
-      for (const T from : {T{0}, limits::min(), limits::max(), static_cast<T>(UINT32_C(1) << 31)}) {
-        T value{};
-        if (!__builtin_add_overflow(from, i, &value)) {
-          values.insert(value);
-        }
-        if (!__builtin_sub_overflow(from, i, &value)) {
-          values.insert(value);
-        }
-      }
-    }
-    values.insert(static_cast<T>(RAVIX_POWER_INVALID));
-    if constexpr (std::same_as<T, std::uint32_t>) {
-      for (T frequency = 1000; frequency < 8000000; frequency += 1000) {
-        const T channel = ravix_frequency_to_channel(frequency);
-        if (ravix_frequency_from_channel_and_band(channel, ravix_frequency_to_radio_band(frequency)) == frequency) {
-          values.insert(frequency);
-        }
-      }
-    }
-    return {values.begin(), values.end()};
-  }
-}
+private:
+  std::string text_, separator_;
+  char end_;
+};
 
-// A flag set's names in the order in which they are shown, each with its bit.
-template <class T, class Text> std::string flag_names(Text text) {
-  std::map<std::string, int> bits;
-  for (int i = 0; i < std::numeric_limits<T>::digits; ++i) {
-    std::istringstream shown(text(static_cast<T>(T{1} << i)));
-    std::string bracket;
-    std::string name;
-    if (shown >> bracket >> name && name != "]") {
-      bits[name] = i;
-    }
-  }
-  std::istringstream all(text(std::numeric_limits<T>::max()));
-  std::string json;
-  for (std::string name; all >> name;) {
-    if (const auto bit = bits.find(name); bit != bits.end()) {
-      json += (json.empty() ? "" : ", ") + ("[" + std::to_string(bit->second) + ", " + quoted(name) + "]");
-    }
-  }
-  return "{\"flags\": [" + json + "]}";
-}
-
-// How a formatter shows the values of a type.
-template <class T, class Text> std::string describe(Text text) {
-  if constexpr (std::same_as<T, std::int64_t>) {
-    if (text(RAVIX_TIMESTAMP_INVALID).empty()) {
-      return "{\"timestamp\": " + std::to_string(RAVIX_TIMESTAMP_INVALID) + "}"; // else the text depends on the clock
-    }
-  }
-  if (text(T{0}) == "[ ]") {
-    return flag_names<T>(text);
-  }
-  if (const std::string bits = text(T{0}); bits.size() >= 8 && bits.find_first_not_of('0') == std::string::npos) {
-    return "{\"bits\": " + std::to_string(bits.size()) + "}";
-  }
-  constexpr T sample = std::numeric_limits<T>::max() > 123456 ? static_cast<T>(123456) : static_cast<T>(123);
-  std::string otherwise = text(sample);
-  if (otherwise != text(T{1})) {
-    replace(otherwise, std::to_string(sample), "{}");
-  }
-  std::string names;
-  for (const T value : special_values<T>()) {
-    const std::string number = std::to_string(value);
-    const std::string shown = text(value);
-    std::string expected = otherwise;
-    replace(expected, "{}", number);
-    if (shown != expected) {
-      names += (names.empty() ? "" : ", ") + quoted(number) + ": " + quoted(shown);
-    }
-  }
-  return "{\"otherwise\": " + quoted(otherwise) + ", \"names\": {" + names + "}}";
-}
-
-// A field's text as the field itself prints it.
-template <class R, class Kind, class Value> std::string printed(const Kind &field, Value set) {
-  R r{};
-  set(r);
+// What a meaning shows for a value.
+struct collector {
+  std::string all;
+  void text(std::string_view piece) { all += piece; }
+  template <class T> void decimal(T number) { all += std::to_string(number); }
+};
+template <class Meaning> std::string shown(auto value) {
   collector out;
-  field.print(out, r);
+  Meaning::print(out, value);
   return out.all;
 }
 
-// What describes the text of a field, or "" if the debugger's own is as good.
-template <class R, class Kind> std::string text_of(const Kind & /*field*/) {
-  return "";
-}
-template <class R, class Kind> std::string text_of(const secret<Kind> &field) {
-  return "{\"otherwise\": " + quoted(printed<R>(field, [](R &) {})) + ", \"names\": {}}";
-}
-template <class R, std::integral T, class Text> std::string text_of(const scalar<R, T, Text> &field) {
-  return describe<T>([&](T value) { return printed<R>(field, [&](R &r) { r.*field.member = value; }); });
-}
-template <class R, class Kind> std::string text_of(const not_compared<Kind> &field) {
-  return text_of<R>(static_cast<const Kind &>(field));
-}
-template <class R, std::size_t N> std::string text_of(const bytes<R, N> &field) {
-  std::string shown = printed<R>(field, [&](R &r) { std::memset(r.*field.member, 0xAB, N); });
-  for (std::size_t i = 0; i < N; ++i) {
-    replace(shown, "AB", "{:02X}");
-  }
-  return "{\"octets\": " + quoted(shown) + "}";
-}
-template <class R, std::size_t N> std::string text_of(const enum_array<R, N> &field) {
-  return describe<std::uint8_t>([&](std::uint8_t value) { return std::string(field.text(value)); });
-}
-template <class R, std::integral E, class Argument>
-std::string text_of(const entries<R, E, const char *(*)(Argument)> &field) {
-  return describe<E>([&](E value) { return std::string(field.text(value)); });
+// A pattern of Python's format() for what a meaning shows for all values but those that have a text of their own.
+template <class Meaning, class T> std::string pattern(T sample) {
+  std::string text = shown<Meaning>(sample);
+  const std::string number = std::to_string(sample);
+  const auto at = text.find(number);
+  return at == std::string::npos ? text : text.replace(at, number.size(), "{}");
 }
 
-// Which alternative the values of which field stand for, found by trying them.
-template <class R, class Kind> std::string alternatives_of(const Kind & /*field*/) {
-  return "";
+template <class T> std::string value_facts(const auto &names) {
+  json all("{}");
+  for (std::size_t i = 0; i < names.count; ++i) {
+    all.add(std::to_string(static_cast<std::int64_t>(static_cast<T>(names.values[i]))), quoted(names.name(i)));
+  }
+  return all.text();
 }
-template <class R, class Tag, class Wide, class Other>
-std::string alternatives_of(const tagged<Tag, Wide, Other> &field) {
-  std::string json;
-  for_each_field<R>([&](const auto &tag) {
-    if constexpr (requires(R r) { (r.*tag.member) = 255U; }) {
-      for (unsigned value = 0; value < 256; ++value) {
-        R r{};
-        r.*tag.member = static_cast<std::remove_reference_t<decltype(r.*tag.member)>>(value);
-        if (Tag::of(r) != alternative::none) {
-          json += (json.empty() ? quoted(tag.name) + ": {" : std::string(", ")) + quoted(std::to_string(value)) + ": " +
-                  quoted(Tag::of(r) == alternative::wide ? field.wide.name : field.other.name);
+
+// Of values of type T.
+template <class Meaning, class T> std::string facts_of() {
+  json facts("{}");
+  constexpr value_kind kind = Meaning::kind;
+  if constexpr (kind == value_kind::flags) {
+    const name_list names = Meaning::names;
+    json bits("[]");
+    for (std::size_t i = 0; i < names.count; ++i) {
+      bits.add("[" + std::to_string(__builtin_ctzll(names.values[i])) + ", " + quoted(names.name(i)) + "]");
+    }
+    facts.add("flags", bits.text());
+  } else if constexpr (kind == value_kind::bits) {
+    facts.add("bits", std::to_string(8 * sizeof(T)));
+  } else if constexpr (kind == value_kind::timestamp) {
+    facts.add("timestamp", std::to_string(Meaning::empty));
+  } else if constexpr (kind == value_kind::flag) {
+    facts.add("otherwise", quoted(shown<Meaning>(T{1})));
+    facts.add("names", "{\"0\": " + quoted(shown<Meaning>(T{0})) + "}");
+  } else if constexpr (kind == value_kind::name || kind == value_kind::identifier) {
+    facts.add("names", value_facts<T>(name_list(Meaning::names)));
+    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", quoted(pattern<Meaning>(T{99})));
+  } else {
+    json names("{}");
+    if constexpr (Meaning::empty_is_none) {
+      names.add(std::to_string(Meaning::empty), quoted(shown<Meaning>(static_cast<T>(Meaning::empty))));
+    }
+    if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
+      facts.add("most", "[100, " + quoted(pattern<Meaning>(T{101})) + "]");
+    }
+    if constexpr (std::is_same_v<Meaning, meaning::channel_frequency>) {
+      for (const std::uint32_t band : {RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAND_5GHZ, RAVIX_RADIO_BAND_6GHZ}) {
+        for (std::uint32_t channel = 1; channel < 256; ++channel) {
+          const std::uint32_t frequency = ravix_frequency_from_channel_and_band(channel, band);
+          if (ravix_frequency_to_radio_band(frequency) == band && ravix_frequency_to_channel(frequency) == channel) {
+            names.add(std::to_string(frequency), quoted(ravix_str_wifi_freq(frequency)));
+          }
         }
       }
     }
-  });
-  return json.empty() ? json : json + "}";
+    facts.add("otherwise", quoted(pattern<Meaning>(T{99})));
+    facts.add("names", names.text());
+  }
+  return facts.text();
 }
 
-// A structure's name, as the compiler writes it.
-template <class T> std::string type_name() {
-  const std::string_view here = __PRETTY_FUNCTION__;
-  const std::size_t begin = here.find("T = ") + 4;
-  return std::string(here.substr(begin, here.find_first_of(";]", begin) - begin));
+// Of a field: null if the debugger's own text is as good.
+template <class Kind> std::string field_facts(const Kind & /*field*/) {
+  if constexpr (requires { typename Kind::shown_as_secret; }) {
+    return "{\"otherwise\": \"[SECRET]\", \"names\": {}}";
+  } else if constexpr (requires { typename Kind::value; }) {
+    using Meaning = typename Kind::meaning;
+    if constexpr (std::is_void_v<Meaning> || !std::is_integral_v<typename Kind::value>) {
+      return "";
+    } else if constexpr (Meaning::kind != value_kind::octets) { // these are told by their length
+      return facts_of<Meaning, typename Kind::value>();
+    }
+  }
+  return "";
 }
 
-class facts {
-public:
-  template <class R> void add() {
-    std::string fields;
-    std::string alternatives;
-    for_each_field<R>([&](const auto &field) {
-      const std::string text = text_of<R>(field);
-      fields += (fields.empty() ? "" : ", ") + quoted(field.name) + ": " + (text.empty() ? "null" : number_of(text));
-      alternatives += alternatives_of<R>(field);
+// What two alternatives depend on: the field before them, and which of its values stand for which.
+template <class R, class Kind> std::string alternatives_of(const Kind &field) {
+  json all("{}");
+  if constexpr (requires { field.first; }) {
+    for_each_field<R>([&](const auto &tag) {
+      json values("{}");
+      tag.members(R{}, [&](const auto &member) {
+        using T = std::remove_cvref_t<decltype(member)>;
+        if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {
+          for (unsigned value = 0; value < 256; ++value) {
+            R r{};
+            *reinterpret_cast<T *>(reinterpret_cast<char *>(&r) + tag.offset) = static_cast<T>(value);
+            if (const int which = field.which(r); which != 0) {
+              values.add(std::to_string(value), quoted(which == 1 ? field.first.name : field.second.name));
+            }
+          }
+        }
+      });
+      if (values.text() != "{}") {
+        all.add(tag.name, values.text());
+      }
     });
-    records_ += (records_.empty() ? "" : ",\n  ") + quoted(type_name<R>()) + ": {\"fields\": {" + fields + "}" +
-                (alternatives.empty() ? "" : ", \"alternatives\": {" + alternatives + "}") + "}";
   }
-
-  void write(std::ostream &out) const {
-    out << "{\"texts\": [\n  ";
-    for (std::size_t i = 0; i < texts_.size(); ++i) {
-      out << (i == 0 ? "" : ",\n  ") << texts_[i];
-    }
-    out << "\n],\n\"records\": {\n  " << records_ << "\n}}\n";
-  }
-
-private:
-  // Equal texts stand once.
-  std::string number_of(const std::string &text) {
-    const auto [at, is_new] = numbers_.try_emplace(text, texts_.size());
-    if (is_new) {
-      texts_.push_back(text);
-    }
-    return std::to_string(at->second);
-  }
-
-  std::vector<std::string> texts_;
-  std::map<std::string, std::size_t> numbers_;
-  std::string records_;
-};
-
-template <class... R> void add_all(facts &all, type_list<R...> /*records*/) {
-  (all.add<R>(), ...);
+  return all.text();
 }
 
 } // namespace
 
 int main() {
-  facts all;
-  add_all(all, all_records{});
-  all.write(std::cout);
+  json texts("[]", ",\n  ");
+  json records("{}", ",\n  ");
+  std::map<std::string, std::size_t> numbers; // equal texts stand once
+  for_each_record([&]<class R>(const char *type) {
+    json fields("{}");
+    std::string alternatives = "{}";
+    for_each_field<R>([&](const auto &field) {
+      const std::string facts = field_facts(field);
+      if (!facts.empty() && numbers.try_emplace(facts, numbers.size()).second) {
+        texts.add(facts);
+      }
+      fields.add(field.name, facts.empty() ? "null" : std::to_string(numbers[facts]));
+      if (const std::string found = alternatives_of<R>(field); found != "{}") {
+        alternatives = found;
+      }
+    });
+    json record("{}");
+    record.add("fields", fields.text());
+    record.add("alternatives", alternatives);
+    records.add(std::string_view(type).substr(0, std::string_view(type).size() - 2), record.text()); // without "_t"
+  });
+  std::cout << "{\"texts\": " << texts.text() << ",\n\"records\": " << records.text() << "}\n";
   return std::cout.flush() ? 0 : 1;
 }

@@ -32,25 +32,40 @@ def bare(value_type):
     return value_type.strip_typedefs().unqualified()
 
 
-def field_text(fact, value):
-    """The library's text of a value."""
-    if bare(value.type).code == gdb.TYPE_CODE_ARRAY and "octets" not in fact and fact.get("names"):
-        return ", ".join(field_text(fact, value[i]) for i in range(value.type.range()[1] + 1))
-    if "octets" in fact:
-        return fact["octets"].format(*octets(value, bare(value.type).range()[1] + 1))
-    if "{" not in fact.get("otherwise", "{"):  # one text for whatever there is
-        return fact["names"].get(str(int(value)), fact["otherwise"]) if fact["names"] else fact["otherwise"]
-    number = int(value)
+def number_text(fact, number):
+    """What the library shows for a number."""
     if "flags" in fact:
         number &= (1 << 64) - 1
-        shown = [name for bit, name in fact["flags"] if number >> bit & 1]
         unnamed = number & ~sum(1 << bit for bit, _ in fact["flags"])
-        return "[ " + "".join(name + " " for name in shown) + "]" + (f" and {unnamed:#x}" if unnamed else "")
+        shown = "".join(name + " " for bit, name in fact["flags"] if number >> bit & 1)
+        return f"[ {shown}]" + (f" and {unnamed:#x}" if unnamed else "")
     if "bits" in fact:
         return f"{number & (1 << fact['bits']) - 1:0{fact['bits']}b}"
     if "timestamp" in fact:  # the date depends on the clocks of the process
         return "never" if number == fact["timestamp"] else f"[{number // 1000}.{number % 1000:03}]"
-    return fact["names"].get(str(number)) or fact["otherwise"].format(number)
+    if str(number) in fact["names"]:
+        return fact["names"][str(number)]
+    if "errors" in fact:  # a negative errno value
+        return os.strerror(-number)
+    most, beyond = fact.get("most", (number, ""))
+    return (beyond if number > most else fact["otherwise"]).format(number)
+
+
+def field_text(fact, value):
+    """The library's text of a value or of an array of values."""
+    if "{" not in fact.get("otherwise", "{") and not fact["names"]:  # one text for whatever there is
+        return fact["otherwise"]
+    if bare(value.type).code == gdb.TYPE_CODE_ARRAY:
+        return ", ".join(number_text(fact, int(value[i])) for i in range(bare(value.type).range()[1] + 1))
+    return number_text(fact, int(value))
+
+
+def octets_text(value):
+    """A MAC address or UUID, told by its length."""
+    shown = "".join(f"{o:02X}" for o in octets(value, bare(value.type).range()[1] + 1))
+    if len(shown) == 12:
+        return ":".join(shown[i : i + 2] for i in range(0, 12, 2))
+    return "-".join((shown[:8], shown[8:12], shown[12:16], shown[16:20], shown[20:]))
 
 
 class ChannelInfo:
@@ -124,7 +139,7 @@ class Mac:
         self.value = value
 
     def to_string(self):
-        return ":".join(f"{o:02X}" for o in octets(self.value, 6))
+        return octets_text(self.value)
 
 
 class Record:
@@ -155,6 +170,8 @@ class Record:
         if field_type.code == gdb.TYPE_CODE_ARRAY and bare(field_type.target()).name == "char":
             text = bytes(octets(value, field_type.range()[1] + 1)).split(b"\0")[0]
             return '"' + text.decode("utf-8", "backslashreplace") + '"'
+        if field_type.code == gdb.TYPE_CODE_ARRAY:
+            return octets_text(value)
         if field_type.code == gdb.TYPE_CODE_PTR and not int(value):
             return NULL
         if field_type.code == gdb.TYPE_CODE_PTR and bare(field_type.target()).tag in RECORDS:

@@ -6,38 +6,34 @@
 
 namespace zel::ravix {
 
-template <> struct record<ravix_start_scan_request_t> {
-  RAVIX_OPERATIONS(ravix_types_start_scan_request)
+template <> struct field_list<ravix_start_scan_request_t> {
   using R = ravix_start_scan_request_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      owned{&R::scan_parameter, "scan_parameter"},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(scan_parameter),
   };
 };
 
-template <> struct record<ravix_start_scan_response_t> {
-  RAVIX_OPERATIONS(ravix_types_start_scan_response)
+template <> struct field_list<ravix_start_scan_response_t> {
   using R = ravix_start_scan_response_t;
   static constexpr std::tuple fields{
-      scalar{&R::status, "status", ravix_str_status},
+      RAVIX_FIELD(status, status),
   };
 };
 
-template <> struct record<ravix_get_scan_results_request_t> {
-  RAVIX_OPERATIONS(ravix_types_get_scan_results_request)
+template <> struct field_list<ravix_get_scan_results_request_t> {
   using R = ravix_get_scan_results_request_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::selective_scan_results, "selective_scan_results", ravix_str_enabled},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(selective_scan_results),
   };
 };
 
-template <> struct record<ravix_get_scan_results_response_t> {
-  RAVIX_OPERATIONS(ravix_types_get_scan_results_response)
+template <> struct field_list<ravix_get_scan_results_response_t> {
   using R = ravix_get_scan_results_response_t;
   static constexpr std::tuple fields{
-      scalar{&R::status, "status", ravix_str_status},
-      owned{&R::scan_results, "scan_results"},
+      RAVIX_FIELD(status, status),
+      RAVIX_FIELD(scan_results),
   };
 };
 

@@ -6,346 +6,297 @@
 
 namespace zel::ravix {
 
-// ---- fields whose meaning another field tells
-
-// Which of the two kinds a tagged field has at present.
-enum class alternative { none, wide, other };
+// ---- fields of which another one tells what they are
 
 // Two fields that share their storage, told apart by Tag:
 //
-//   Tag::record_type               the record
-//   Tag::of(r)                     which of the two the record's field is
-//   Tag::log_rejected(r, site)     says that a record of neither cannot be copied
+//   Tag::is_first(r), Tag::is_second(r)   which of the two the record has at present; maybe neither
+//   Tag::log_rejected(r, site)            says that a record of neither cannot be copied
 //
-// The tag stands before the field, so a record's clear must clear this field first; see clear_tagged().
-template <class Tag, class Wide, class Other> struct tagged {
-  using R = typename Tag::record_type;
+// The tag stands before the field, so a record's clear must clear this field first. The first field is as large as the
+// storage.
+template <class Tag, class First, class Second> struct tagged : any_kind<> {
+  using R = typename First::R;
   static constexpr bool is_flat = false;
-  static constexpr bool is_secret = false;
-  const char *name;
-  Wide wide; // as large as the storage
-  Other other;
-
-  constexpr tagged(Tag /*tag*/, const char *field_name, Wide wide_field, Other other_field)
-      : name(field_name), wide(wide_field), other(other_field) {}
+  First first;
+  Second second;
 
   // Calls the function with the field that the record has at present, if any.
   template <class Function> void use(const R &r, Function function) const {
-    switch (Tag::of(r)) {
-    case alternative::wide:
-      return function(wide);
-    case alternative::other:
-      return function(other);
-    case alternative::none:
-      break;
+    if (Tag::is_first(r)) {
+      function(first);
+    } else if (Tag::is_second(r)) {
+      function(second);
     }
   }
+  // A number for what the record has at present, 0 for neither.
+  static int which(const R &r) { return Tag::is_first(r) ? 1 : Tag::is_second(r) ? 2 : 0; }
 
-  template <class Visit> void members(const R &r, Visit visit) const { wide.members(r, visit); }
+  template <class Visit> static void members(const R &r, Visit visit) { First::members(r, visit); }
   void clear(R &r, call_site site) const {
     use(r, [&](const auto &field) { field.clear(r, site); });
-    r.*(wide.member) = {};
+    First::members(r, [](const auto &storage) {
+      std::memset(const_cast<void *>(static_cast<const void *>(&storage)), 0, sizeof storage);
+    });
   }
-  bool copyable(const R &src) const {
-    bool may = false;
-    use(src, [&](const auto &field) { may = field.copyable(src); });
-    return may;
+  bool accepts(const R &src) const {
+    bool accepted = false;
+    use(src, [&](const auto &field) { accepted = field.accepts(src); });
+    return accepted;
   }
   failure copy(const R &src, R &dest, call_site site) const {
     failure failed{nullptr, invalid_argument};
-    if (Tag::of(src) == alternative::none) {
+    if (which(src) == 0) {
       Tag::log_rejected(src, site);
     }
     use(src, [&](const auto &field) { failed = field.copy(src, dest, site); });
     return failed;
   }
   int compare(const R &a, const R &b) const {
-    int order = static_cast<int>(Tag::of(a)) - static_cast<int>(Tag::of(b));
+    int order = which(a) - which(b);
     if (order == 0) {
       use(a, [&](const auto &field) { order = field.compare(a, b); });
     }
     return order;
   }
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool newline) const {
-    const R *same = ref != nullptr && Tag::of(*ref) == Tag::of(r) ? ref : nullptr;
+    const R *same = ref != nullptr && which(*ref) == which(r) ? ref : nullptr;
     use(r, [&](const auto &field) { field.print_diff(out, r, same, indent, newline); });
   }
 };
-
-// Clears a record with the tagged field `payload`, and that one first, while its tag still tells what it is.
-template <class R> void clear_tagged(R &r, call_site site) {
-  record<R>::payload.clear(r, site);
-  clear_fields(r, site);
+template <class Tag, class First, class Second>
+constexpr tagged<Tag, First, Second> tag_fields(const char *name, std::size_t offset, First first, Second second) {
+  return {{name, offset}, first, second};
 }
 
 // ---- records
 
-template <> struct record<ravix_cfg_debug_settings_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_debug_settings)
+template <> struct field_list<ravix_cfg_debug_settings_t> {
   using R = ravix_cfg_debug_settings_t;
   static constexpr std::tuple fields{
-      scalar{&R::trace_state, "trace_state"},
-      owned_text{&R::trace_parameter, "trace_parameter"},
+      RAVIX_FIELD(trace_state),
+      RAVIX_FIELD(trace_parameter),
   };
 };
 
-template <> struct record<ravix_cfg_meshd_settings_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_meshd_settings)
+template <> struct field_list<ravix_cfg_meshd_settings_t> {
   using R = ravix_cfg_meshd_settings_t;
   static constexpr std::tuple fields{
-      scalar{&R::band_steering, "band_steering", ravix_str_enabled},
-      scalar{&R::backhaul_steering, "backhaul_steering", ravix_str_enabled},
+      RAVIX_FIELD(band_steering),
+      RAVIX_FIELD(backhaul_steering),
   };
 };
 
-template <> struct record<ravix_cfg_time_control_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_time_control)
+template <> struct field_list<ravix_cfg_time_control_t> {
   using R = ravix_cfg_time_control_t;
   static constexpr std::tuple fields{
-      scalar{&R::forced_off, "forced_off", ravix_str_enabled},
+      RAVIX_FIELD(forced_off),
   };
 };
 
-template <> struct record<ravix_cfg_repeating_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_repeating)
+template <> struct field_list<ravix_cfg_repeating_t> {
   using R = ravix_cfg_repeating_t;
   static constexpr std::tuple fields{
-      scalar{&R::overwrite_ap_config, "overwrite_ap_config", ravix_str_enabled},
+      RAVIX_FIELD(overwrite_ap_config),
   };
 };
 
-template <> struct record<ravix_cfg_access_control_settings_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_access_control_settings)
+template <> struct field_list<ravix_cfg_access_control_settings_t> {
   using R = ravix_cfg_access_control_settings_t;
   static constexpr std::tuple fields{
-      scalar{&R::autofill_enable, "autofill_enable", ravix_str_enabled},
-      nested{&R::ssids_source, "ssids_source"},
-      nested{&R::ssids_target, "ssids_target"},
+      RAVIX_FIELD(autofill_enable),
+      RAVIX_FIELD(ssids_source),
+      RAVIX_FIELD(ssids_target),
   };
 };
 
-template <> struct record<ravix_cfg_global_settings_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_global_settings)
+template <> struct field_list<ravix_cfg_global_settings_t> {
   using R = ravix_cfg_global_settings_t;
   static constexpr std::tuple fields{
-      scalar{&R::wlan_enabled, "wlan_enabled", ravix_str_enabled},
-      scalar{&R::auto_settings, "auto_settings", ravix_str_enabled},
-      scalar{&R::outdoor_mode, "outdoor_mode", ravix_str_enabled},
-      scalar{&R::security_interop, "security_interop", ravix_str_enabled},
-      scalar{&R::use_channel_12_13, "use_channel_12_13", ravix_str_enabled},
-      scalar{&R::event_control, "event_control", ravix_str_event_log_control},
-      scalar{&R::device_opmode, "device_opmode", ravix_str_device_opmode},
-      nested{&R::dbg_settings, "dbg_settings"},
-      nested{&R::meshd_settings, "meshd_settings"},
-      nested{&R::time_control, "time_control"},
-      nested{&R::repeating, "repeating"},
-      nested{&R::acl_settings, "acl_settings"},
+      RAVIX_FIELD(wlan_enabled),
+      RAVIX_FIELD(auto_settings),
+      RAVIX_FIELD(outdoor_mode),
+      RAVIX_FIELD(security_interop),
+      RAVIX_FIELD(use_channel_12_13),
+      RAVIX_FIELD(event_control, event_log_control),
+      RAVIX_FIELD(device_opmode, device_opmode),
+      RAVIX_FIELD(dbg_settings),
+      RAVIX_FIELD(meshd_settings),
+      RAVIX_FIELD(time_control),
+      RAVIX_FIELD(repeating),
+      RAVIX_FIELD(acl_settings),
   };
 };
 
-template <> struct record<ravix_cfg_auto_update_role_opmode_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_auto_update_role_opmode)
+template <> struct field_list<ravix_cfg_auto_update_role_opmode_t> {
   using R = ravix_cfg_auto_update_role_opmode_t;
   static constexpr std::tuple fields{
-      scalar{&R::role_opmode, "role_opmode", ravix_str_role_opmode},
+      RAVIX_FIELD(role_opmode, role_opmode),
   };
 };
 
-template <> struct record<ravix_cfg_auto_update_feature_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_auto_update_feature)
+template <> struct field_list<ravix_cfg_auto_update_feature_t> {
   using R = ravix_cfg_auto_update_feature_t;
   static constexpr std::tuple fields{
-      scalar{&R::feature, "feature", ravix_str_features},
+      RAVIX_FIELD(feature, features),
   };
 };
 
 struct rule_tag {
-  using record_type = ravix_cfg_auto_update_rule_t;
-
-  static alternative of(const record_type &rule) {
-    switch (rule.type) {
-    case RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE:
-      return alternative::other;
-    case RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE:
-      return alternative::wide;
-    default:
-      return alternative::none;
-    }
-  }
-  static void log_rejected(const record_type &rule, call_site site);
+  using R = ravix_cfg_auto_update_rule_t;
+  static bool is_first(const R &rule) { return rule.type == RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE; }
+  static bool is_second(const R &rule) { return rule.type == RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE; }
+  static void log_rejected(const R &rule, call_site site);
 };
 
-template <> struct record<ravix_cfg_auto_update_rule_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_auto_update_rule)
+template <> struct field_list<ravix_cfg_auto_update_rule_t> {
   using R = ravix_cfg_auto_update_rule_t;
-  static constexpr scalar type{&R::type, "type"};
-  static constexpr tagged payload{rule_tag{}, "payload", nested{&R::auto_update_features, "auto_update_features"},
-                                  nested{&R::auto_update_role_opmode, "auto_update_role_opmode"}};
+  static constexpr auto type = RAVIX_FIELD(type);
+  static constexpr auto payload =
+      tag_fields<rule_tag>("payload", offsetof(R, auto_update_features), RAVIX_FIELD(auto_update_features),
+                           RAVIX_FIELD(auto_update_role_opmode));
   static constexpr std::tuple fields{
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
+      RAVIX_FIELD(enabled),
       type,
       payload,
   };
+  static void clear(R &rule, call_site site);
 };
 
-template <> struct record<ravix_cfg_hardware_static_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_hw)
+template <> struct field_list<ravix_cfg_hardware_static_t> {
   using R = ravix_cfg_hardware_static_t;
   static constexpr std::tuple fields{
-      scalar{&R::id, "id", ravix_str_id},
-      scalar{&R::vendor_id, "vendor_id"},
-      scalar{&R::chip_type, "chip_type"},
-      scalar{&R::hw_interface, "hw_interface", ravix_str_index, RAVIX_INDEX_INVALID},
+      RAVIX_FIELD(id, id),
+      RAVIX_FIELD(vendor_id),
+      RAVIX_FIELD(chip_type),
+      RAVIX_FIELD(hw_interface, index),
   };
 };
 
-template <> struct record<ravix_cfg_radio_static_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_radio)
+template <> struct field_list<ravix_cfg_radio_static_t> {
   using R = ravix_cfg_radio_static_t;
   static constexpr std::tuple fields{
-      scalar{&R::id, "id", ravix_str_id},
-      bounded_text{&R::if_name, "if_name"},
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
-      scalar{&R::hw_id, "hw_id", ravix_str_id},
-      scalar{&R::mac_address_index, "mac_address_index", ravix_str_index, RAVIX_INDEX_INVALID},
-      scalar{&R::radio_band, "radio_band", ravix_str_radio_band},
-      scalar{&R::radio_sub_band, "radio_sub_band", ravix_str_radio_sub_band},
-      scalar{&R::coexistence_enabled, "coexistence_enabled", ravix_str_enabled},
-      scalar{&R::auto_channel, "auto_channel", ravix_str_enabled},
-      scalar{&R::primary_freq, "primary_freq", ravix_str_wifi_freq},
+      RAVIX_FIELD(id, id),
+      RAVIX_FIELD(if_name),
+      RAVIX_FIELD(enabled),
+      RAVIX_FIELD(hw_id, id),
+      RAVIX_FIELD(mac_address_index, index),
+      RAVIX_FIELD(radio_band, radio_band),
+      RAVIX_FIELD(radio_sub_band, radio_sub_band),
+      RAVIX_FIELD(coexistence_enabled),
+      RAVIX_FIELD(auto_channel),
+      RAVIX_FIELD(primary_freq, channel_frequency),
   };
 };
 
-template <> struct record<ravix_cfg_radio_dynamic_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_radio_dynamic)
+template <> struct field_list<ravix_cfg_radio_dynamic_t> {
   using R = ravix_cfg_radio_dynamic_t;
   static constexpr std::tuple fields{
-      scalar{&R::id, "id", ravix_str_id},
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
-      scalar{&R::auto_channel, "auto_channel", ravix_str_enabled},
+      RAVIX_FIELD(id, id),
+      RAVIX_FIELD(enabled),
+      RAVIX_FIELD(auto_channel),
   };
 };
 
-template <> struct record<ravix_cfg_wlan_wps_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_wlan_wps)
+template <> struct field_list<ravix_cfg_wlan_wps_t> {
   using R = ravix_cfg_wlan_wps_t;
   static constexpr std::tuple fields{
-      scalar{&R::enable, "enable", ravix_str_enabled},
-      bytes{&R::uuid, "uuid", ravix_str_uuid},
+      RAVIX_FIELD(enable),
+      RAVIX_FIELD(uuid, uuid),
   };
 };
 
 // Servers are the same wherever they stand in the operator's list.
-template <> struct record<ravix_cfg_radius_server_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_radius_server)
+template <> struct field_list<ravix_cfg_radius_server_t> {
   using R = ravix_cfg_radius_server_t;
   static constexpr std::tuple fields{
-      not_compared{scalar{&R::index, "index", ravix_str_index, RAVIX_INDEX_INVALID}},
-      scalar{&R::port, "port"},
-      nested{&R::addr, "addr"},
-      zel::ravix::secret{bounded_text{&R::secret, "secret"}},
+      not_compared{RAVIX_FIELD(index, index)},
+      RAVIX_FIELD(port),
+      RAVIX_FIELD(addr),
+      secret{RAVIX_FIELD(secret)},
   };
 };
 
-template <> struct record<ravix_cfg_radius_server_table_t> {
-  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_cfg_radius_server_table)
-  using T = ravix_cfg_radius_server_table_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <> struct field_list<ravix_cfg_radius_server_table_t> : table_fields<ravix_cfg_radius_server_table_t> {};
 
-template <> struct record<ravix_cfg_wlan_security_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_wlan_security)
+template <> struct field_list<ravix_cfg_wlan_security_t> {
   using R = ravix_cfg_wlan_security_t;
   static constexpr std::tuple fields{
-      scalar{&R::security, "security", ravix_str_security},
-      scalar{&R::pmf_mode, "pmf_mode", ravix_str_pmf_mode},
-      nested{&R::key, "key"},
-      nested{&R::wps, "wps"},
-      nested{&R::auth_servers, "auth_servers"},
-      nested{&R::acct_servers, "acct_servers"},
+      RAVIX_FIELD(security, security), RAVIX_FIELD(pmf_mode, pmf_mode), RAVIX_FIELD(key), RAVIX_FIELD(wps),
+      RAVIX_FIELD(auth_servers),       RAVIX_FIELD(acct_servers),
   };
 };
 
-template <> struct record<ravix_cfg_security_extended_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_security_extended)
+template <> struct field_list<ravix_cfg_security_extended_t> {
   using R = ravix_cfg_security_extended_t;
   static constexpr std::tuple fields{
-      scalar{&R::encryption, "encryption", ravix_str_encryption},
-      scalar{&R::pmf_mode, "pmf_mode", ravix_str_pmf_mode},
-      scalar{&R::pwe_mode, "pwe_mode", ravix_str_pwe_mode},
-      enum_array{&R::key_mgmt, "key_mgmt", ravix_str_encryption_akm},
-      enum_array{&R::group_cipher, "group_cipher", ravix_str_encryption_cipher_suite},
-      enum_array{&R::group_mgmt_cipher, "group_mgmt_cipher", ravix_str_encryption_group_mgmt_cipher},
-      enum_array{&R::pairwise_ciphers, "pairwise_ciphers", ravix_str_encryption_cipher_suite},
+      RAVIX_FIELD(encryption, encryption),
+      RAVIX_FIELD(pmf_mode, pmf_mode),
+      RAVIX_FIELD(pwe_mode, pwe_mode),
+      RAVIX_FIELD(key_mgmt, encryption_akm),
+      RAVIX_FIELD(group_cipher, encryption_cipher_suite),
+      RAVIX_FIELD(group_mgmt_cipher, encryption_group_mgmt_cipher),
+      RAVIX_FIELD(pairwise_ciphers, encryption_cipher_suite),
   };
 };
 
-template <> struct record<ravix_cfg_security_extended_table_t> {
-  RAVIX_COMPARED_TABLE_OPERATIONS(ravix_cfg_security_extended_table)
-  using T = ravix_cfg_security_extended_table_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <>
+struct field_list<ravix_cfg_security_extended_table_t> : table_fields<ravix_cfg_security_extended_table_t> {};
 
-template <> struct record<ravix_cfg_role_access_control_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_access_control)
+template <> struct field_list<ravix_cfg_role_access_control_t> {
   using R = ravix_cfg_role_access_control_t;
   static constexpr std::tuple fields{
-      scalar{&R::mac_filter_enabled, "mac_filter_enabled", ravix_str_enabled},
-      scalar{&R::mac_filter_type, "mac_filter_type", ravix_str_mac_access_type},
-      nested{&R::macs_filtered, "macs_filtered"},
-      scalar{&R::limits_enabled, "limits_enabled", ravix_str_enabled},
-      scalar{&R::limits_max_clients, "limits_max_clients", decimal, RAVIX_MAX_CLIENTS_UNLIMITED},
-      scalar{&R::limits_min_client_rssi, "limits_min_client_rssi", ravix_str_power, RAVIX_POWER_INVALID},
+      RAVIX_FIELD(mac_filter_enabled),
+      RAVIX_FIELD(mac_filter_type, mac_access_type),
+      RAVIX_FIELD(macs_filtered),
+      RAVIX_FIELD(limits_enabled),
+      RAVIX_FIELD(limits_max_clients, client_limit),
+      RAVIX_FIELD(limits_min_client_rssi, power),
   };
 };
 
-template <> struct record<ravix_cfg_role_ap_time_control_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_ap_time_control)
+template <> struct field_list<ravix_cfg_role_ap_time_control_t> {
   using R = ravix_cfg_role_ap_time_control_t;
   static constexpr std::tuple fields{
-      scalar{&R::timeout_active, "timeout_active", ravix_str_enabled},
-      scalar{&R::timeout_minutes, "timeout_minutes"},
-      scalar{&R::force_off, "force_off", ravix_str_enabled},
+      RAVIX_FIELD(timeout_active),
+      RAVIX_FIELD(timeout_minutes),
+      RAVIX_FIELD(force_off),
   };
 };
 
-template <> struct record<ravix_cfg_role_config_ap_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_config_ap)
+template <> struct field_list<ravix_cfg_role_config_ap_t> {
   using R = ravix_cfg_role_config_ap_t;
   static constexpr std::tuple fields{
-      nested{&R::ssid, "ssid"},
-      scalar{&R::ssid_set, "ssid_set", ravix_str_enabled},
-      scalar{&R::hidden_ssid_enabled, "hidden_ssid_enabled", ravix_str_enabled},
-      scalar{&R::user_isolation_enabled, "user_isolation_enabled", ravix_str_enabled},
-      scalar{&R::iptv_optimization_enabled, "iptv_optimization_enabled", ravix_str_enabled},
-      nested{&R::access_control, "access_control"},
-      nested{&R::time_control, "time_control"},
+      RAVIX_FIELD(ssid),
+      RAVIX_FIELD(ssid_set),
+      RAVIX_FIELD(hidden_ssid_enabled),
+      RAVIX_FIELD(user_isolation_enabled),
+      RAVIX_FIELD(iptv_optimization_enabled),
+      RAVIX_FIELD(access_control),
+      RAVIX_FIELD(time_control),
   };
 };
 
-template <> struct record<ravix_cfg_role_config_sta_uplink_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_config_sta_uplink)
+template <> struct field_list<ravix_cfg_role_config_sta_uplink_t> {
   using R = ravix_cfg_role_config_sta_uplink_t;
   static constexpr std::tuple fields{
-      nested{&R::ssid, "ssid"},
-      bytes{&R::mac_master, "mac_master", ravix_str_mac},
+      RAVIX_FIELD(ssid),
+      RAVIX_FIELD(mac_master, mac),
   };
 };
 
-template <> struct record<ravix_cfg_role_config_sta_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_config_sta)
+template <> struct field_list<ravix_cfg_role_config_sta_t> {
   using R = ravix_cfg_role_config_sta_t;
   static constexpr std::tuple fields{
-      scalar{&R::marked_for_uplink_completion, "marked_for_uplink_completion", ravix_str_enabled},
-      scalar{&R::uplink_configured, "uplink_configured", ravix_str_enabled},
-      nested{&R::uplink, "uplink"},
+      RAVIX_FIELD(marked_for_uplink_completion),
+      RAVIX_FIELD(uplink_configured),
+      RAVIX_FIELD(uplink),
   };
 };
 
 struct role_tag {
-  using record_type = ravix_cfg_role_static_t;
-
-  static alternative of(const record_type &role) {
+  using R = ravix_cfg_role_static_t;
+  static bool is_first(const R &role) {
     switch (role.op_mode) {
     case RAVIX_ROLE_OPMODE_AP_HOME:
     case RAVIX_ROLE_OPMODE_AP_GUEST:
@@ -353,96 +304,89 @@ struct role_tag {
     case RAVIX_ROLE_OPMODE_AP_HOME_OWE:
     case RAVIX_ROLE_OPMODE_AP_GUEST_OWE:
     case RAVIX_ROLE_OPMODE_AP_HOTSPOT_OWE:
-      return alternative::wide;
-    case RAVIX_ROLE_OPMODE_ATACLIENT:
-    case RAVIX_ROLE_OPMODE_REPEATER:
-      return alternative::other;
+      return true;
     default:
-      return alternative::none;
+      return false;
     }
   }
-  static void log_rejected(const record_type &role, call_site site);
+  static bool is_second(const R &role) {
+    return role.op_mode == RAVIX_ROLE_OPMODE_ATACLIENT || role.op_mode == RAVIX_ROLE_OPMODE_REPEATER;
+  }
+  static void log_rejected(const R &role, call_site site);
 };
 
 // What a role owns by its operating mode. A role without it is incomplete and cannot be copied; the failure's code
 // tells callers apart a broken role from exhausted memory elsewhere in it.
-template <class R, class T> struct role_config : owned<R, T> {
+template <auto Member> struct role_config : owned<Member> {
+  using R = ravix_cfg_role_static_t;
   const char *assertion;
 
-  constexpr role_config(T *R::*field, const char *field_name, const char *asserted)
-      : owned<R, T>(field, field_name), assertion(asserted) {}
-
-  bool copyable(const R &src) const { return src.*(this->member) != nullptr && owned<R, T>::copyable(src); }
+  static bool accepts(const R &src) { return src.*Member != nullptr && owned<Member>::accepts(src); }
   failure copy(const R &src, R &dest, call_site site) const {
-    const T *config = src.*(this->member);
-    if (config == nullptr) {
+    if (src.*Member == nullptr) {
       log_assertion(site, assertion);
     }
-    T *copied = record<T>::clone(config); // says itself that there is none
-    dest.*(this->member) = copied;
-    return copied != nullptr ? failure{} : copy_error(RAVIX_FAIL_GENERAL);
+    dest.*Member = operations<typename owned<Member>::T>::clone(src.*Member); // says itself that there is none
+    return dest.*Member != nullptr ? failure{} : copy_error(RAVIX_FAIL_GENERAL);
   }
 };
 
-template <> struct record<ravix_cfg_role_static_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role)
+template <> struct field_list<ravix_cfg_role_static_t> {
   using R = ravix_cfg_role_static_t;
-  static constexpr tagged payload{role_tag{}, "config",
-                                  role_config{&R::config_ap, "config_ap", "nullptr != src->config_ap"},
-                                  role_config{&R::config_sta, "config_sta", "nullptr != src->config_sta"}};
+  static constexpr auto payload = tag_fields<role_tag>(
+      "config", offsetof(R, config_ap),
+      role_config<&R::config_ap>{{{{"config_ap", offsetof(R, config_ap)}}}, "nullptr != src->config_ap"},
+      role_config<&R::config_sta>{{{{"config_sta", offsetof(R, config_sta)}}}, "nullptr != src->config_sta"});
   static constexpr std::tuple fields{
-      scalar{&R::id, "id", ravix_str_id},
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
-      scalar{&R::mac_address_index, "mac_address_index", ravix_str_index, RAVIX_INDEX_INVALID},
-      bounded_text{&R::if_name, "if_name"},
-      scalar{&R::op_mode, "op_mode", ravix_str_role_opmode},
-      scalar{&R::power_level, "power_level", ravix_str_percentage, RAVIX_MEASURE_INVALID},
-      scalar{&R::wlan_mode, "wlan_mode", ravix_str_wlan_mode},
-      scalar{&R::channel_width, "channel_width", ravix_str_channel_width},
-      nested{&R::security, "security"},
+      RAVIX_FIELD(id, id),
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(enabled),
+      RAVIX_FIELD(mac_address_index, index),
+      RAVIX_FIELD(if_name),
+      RAVIX_FIELD(op_mode, role_opmode),
+      RAVIX_FIELD(power_level, percentage),
+      RAVIX_FIELD(wlan_mode, wlan_mode),
+      RAVIX_FIELD(channel_width, channel_width),
+      RAVIX_FIELD(security),
       payload,
   };
+  static void clear(R &role, call_site site);
 };
 
-template <> struct record<ravix_cfg_owe_transition_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_owe_transition)
+template <> struct field_list<ravix_cfg_owe_transition_t> {
   using R = ravix_cfg_owe_transition_t;
   static constexpr std::tuple fields{
-      scalar{&R::owe_master_id, "owe_master_id", ravix_str_id}, scalar{&R::owe_slave_id, "owe_slave_id", ravix_str_id},
-      scalar{&R::owe_active, "owe_active", ravix_str_enabled},  nested{&R::owe_ssid, "owe_ssid"},
-      bytes{&R::owe_bssid, "owe_bssid", ravix_str_mac},
+      RAVIX_FIELD(owe_master_id, id), RAVIX_FIELD(owe_slave_id, id), RAVIX_FIELD(owe_active),
+      RAVIX_FIELD(owe_ssid),          RAVIX_FIELD(owe_bssid, mac),
   };
 };
 
-template <> struct record<ravix_cfg_mld_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_mld)
+template <> struct field_list<ravix_cfg_mld_t> {
   using R = ravix_cfg_mld_t;
   static constexpr std::tuple fields{
-      bytes{&R::mld_mac, "mld_mac", ravix_str_mac},
-      nested{&R::mld_role_ids, "mld_role_ids"},
+      RAVIX_FIELD(mld_mac, mac),
+      RAVIX_FIELD(mld_role_ids),
   };
 };
 
-template <> struct record<ravix_cfg_role_dynamic_t> {
-  RAVIX_COMPARED_OPERATIONS(ravix_cfg_role_dynamic)
+template <> struct field_list<ravix_cfg_role_dynamic_t> {
   using R = ravix_cfg_role_dynamic_t;
   static constexpr std::tuple fields{
-      scalar{&R::id, "id", ravix_str_id},
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
-      bytes{&R::mac, "mac", ravix_str_mac},
-      scalar{&R::wlan_mode, "wlan_mode", ravix_str_wlan_mode},
-      scalar{&R::channel_width, "channel_width", ravix_str_channel_width},
-      scalar{&R::valid, "valid", ravix_str_enabled},
-      scalar{&R::radio_master_id, "radio_master_id", ravix_str_id},
-      scalar{&R::ap_master_id, "ap_master_id", ravix_str_id},
-      scalar{&R::mac_filter_enabled, "mac_filter_enabled", ravix_str_enabled},
-      scalar{&R::pbc_enabled, "pbc_enabled", ravix_str_enabled},
-      scalar{&R::security, "security", ravix_str_security},
-      nested{&R::rsn_element, "rsn_element"},
-      nested{&R::rsno_elements, "rsno_elements"},
-      owned{&R::owe_transition, "owe_transition"},
-      owned{&R::cfg_mld, "cfg_mld"},
+      RAVIX_FIELD(id, id),
+      RAVIX_FIELD(enabled),
+      RAVIX_FIELD(mac, mac),
+      RAVIX_FIELD(wlan_mode, wlan_mode),
+      RAVIX_FIELD(channel_width, channel_width),
+      RAVIX_FIELD(valid),
+      RAVIX_FIELD(radio_master_id, id),
+      RAVIX_FIELD(ap_master_id, id),
+      RAVIX_FIELD(mac_filter_enabled),
+      RAVIX_FIELD(pbc_enabled),
+      RAVIX_FIELD(security, security),
+      RAVIX_FIELD(rsn_element),
+      RAVIX_FIELD(rsno_elements),
+      RAVIX_FIELD(owe_transition),
+      RAVIX_FIELD(cfg_mld),
   };
 };
 

@@ -1,5 +1,7 @@
 #include "ravix_types_common_fields.hpp"
 
+#include "ravix_types_define.hpp"
+
 #include <cstring>
 
 namespace {
@@ -44,14 +46,5 @@ int zel::ravix::element<char *>::copy(const char *const *src, char **dest) {
   return string_copy(src, dest);
 }
 
-RAVIX_COMPARED_RECORD(ravix_types_channel_info, ravix_channel_info_t)
-RAVIX_COMPARED_RECORD(ravix_types_ip_addr, ravix_ip_addr_t)
-RAVIX_COMPARED_RECORD(ravix_types_key, ravix_key_t)
-RAVIX_COMPARED_RECORD(ravix_types_ssid, ravix_ssid_t)
-RAVIX_COMPARED_RECORD(ravix_types_tlv, ravix_tlv_t)
-RAVIX_COMPARED_TABLE(ravix_types_frequency_table, ravix_frequency_table_t)
-RAVIX_COMPARED_TABLE(ravix_types_id_table, ravix_id_table_t)
-RAVIX_COMPARED_TABLE(ravix_types_mac_table, ravix_mac_table_t)
-RAVIX_COMPARED_TABLE(ravix_types_ssid_table, ravix_ssid_table_t)
-RAVIX_COMPARED_TABLE(ravix_types_string_table, ravix_string_table_t)
-RAVIX_COMPARED_TABLE(ravix_types_tlv_table, ravix_tlv_table_t)
+#define RAVIX_COMMON_RECORD RAVIX_DEFINE
+#include "ravix_types_records.def"

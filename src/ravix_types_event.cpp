@@ -1,17 +1,10 @@
 #include "ravix_types_event_fields.hpp"
 
+#include "ravix_types_define.hpp"
+
 namespace {
 constexpr const char *here = "src/ravix_types_event";
 }
 
-RAVIX_RECORD(ravix_types_event_log_entry, ravix_event_log_entry_t)
-RAVIX_RECORD(ravix_types_event_scan_results, ravix_event_scan_results_t)
-RAVIX_RECORD(ravix_types_event_green_ap, ravix_event_green_ap_t)
-RAVIX_RECORD(ravix_types_event_channel_change, ravix_event_channel_change_t)
-RAVIX_RECORD(ravix_types_event_interference, ravix_event_interference_t)
-RAVIX_RECORD(ravix_types_event_radar_wait, ravix_event_radar_wait_t)
-RAVIX_RECORD(ravix_types_event_radar_detected, ravix_event_radar_detected_t)
-RAVIX_RECORD(ravix_types_event_radar_precac, ravix_event_radar_precac_t)
-RAVIX_RECORD(ravix_types_event_client_state_update, ravix_event_client_state_update_t)
-RAVIX_RECORD(ravix_types_event_client_activity_update, ravix_event_client_activity_update_t)
-RAVIX_RECORD(ravix_types_event_client_rssi_update, ravix_event_client_rssi_update_t)
+#define RAVIX_EVENT_RECORD RAVIX_DEFINE
+#include "ravix_types_records.def"

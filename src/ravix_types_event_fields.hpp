@@ -6,127 +6,107 @@
 
 namespace zel::ravix {
 
-template <> struct record<ravix_event_log_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_event_log_entry)
+template <> struct field_list<ravix_event_log_entry_t> {
   using R = ravix_event_log_entry_t;
   static constexpr std::tuple fields{
-      scalar{&R::event_id, "event_id"},
-      scalar{&R::max_rate, "max_rate", ravix_str_bitrate},
-      bytes{&R::mac, "mac", ravix_str_mac},
-      scalar{&R::band, "band", ravix_str_radio_band},
-      scalar{&R::is_mlo, "is_mlo", ravix_str_enabled},
-      scalar{&R::details, "details"},
+      RAVIX_FIELD(event_id), RAVIX_FIELD(max_rate, bitrate), RAVIX_FIELD(mac, mac), RAVIX_FIELD(band, radio_band),
+      RAVIX_FIELD(is_mlo),   RAVIX_FIELD(details),
   };
 };
 
-template <> struct record<ravix_event_scan_results_t> {
-  RAVIX_OPERATIONS(ravix_types_event_scan_results)
+template <> struct field_list<ravix_event_scan_results_t> {
   using R = ravix_event_scan_results_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      owned{&R::scan_parameter, "scan_parameter"},
-      owned{&R::scan_results, "scan_results"},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(scan_parameter),
+      RAVIX_FIELD(scan_results),
   };
 };
 
-template <> struct record<ravix_event_green_ap_t> {
-  RAVIX_OPERATIONS(ravix_types_event_green_ap)
+template <> struct field_list<ravix_event_green_ap_t> {
   using R = ravix_event_green_ap_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::enabled, "enabled", ravix_str_enabled},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(enabled),
   };
 };
 
-template <> struct record<ravix_event_channel_change_t> {
-  RAVIX_OPERATIONS(ravix_types_event_channel_change)
+template <> struct field_list<ravix_event_channel_change_t> {
   using R = ravix_event_channel_change_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      nested{&R::prev_channel, "prev_channel"},
-      nested{&R::new_channel, "new_channel"},
-      scalar{&R::reason, "reason", ravix_str_channel_change_reason},
-      scalar{&R::change_time, "change_time", decimal, 0, " s"},
+      RAVIX_FIELD(radio_id, id),         RAVIX_FIELD(prev_channel),
+      RAVIX_FIELD(new_channel),          RAVIX_FIELD(reason, channel_change_reason),
+      RAVIX_FIELD(change_time, seconds),
   };
 };
 
-template <> struct record<ravix_event_interference_t> {
-  RAVIX_OPERATIONS(ravix_types_event_interference)
+template <> struct field_list<ravix_event_interference_t> {
   using R = ravix_event_interference_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::primary_freq, "primary_freq", ravix_str_wifi_freq},
-      scalar{&R::active, "active", ravix_str_enabled},
-      scalar{&R::channel_change, "channel_change", ravix_str_enabled},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(primary_freq, channel_frequency),
+      RAVIX_FIELD(active),
+      RAVIX_FIELD(channel_change),
   };
 };
 
-template <> struct record<ravix_event_radar_wait_t> {
-  RAVIX_OPERATIONS(ravix_types_event_radar_wait)
+template <> struct field_list<ravix_event_radar_wait_t> {
   using R = ravix_event_radar_wait_t;
   static constexpr std::tuple fields{
-      scalar{&R::role_id, "role_id", ravix_str_id},
-      scalar{&R::started, "started", ravix_str_enabled},
-      scalar{&R::radar_time, "radar_time", decimal, 0, " s"},
-      scalar{&R::first_primary_khz, "first_primary_khz", ravix_str_wifi_freq},
-      scalar{&R::last_primary_khz, "last_primary_khz", ravix_str_wifi_freq},
+      RAVIX_FIELD(role_id, id),
+      RAVIX_FIELD(started),
+      RAVIX_FIELD(radar_time, seconds),
+      RAVIX_FIELD(first_primary_khz, channel_frequency),
+      RAVIX_FIELD(last_primary_khz, channel_frequency),
   };
 };
 
-template <> struct record<ravix_event_radar_detected_t> {
-  RAVIX_OPERATIONS(ravix_types_event_radar_detected)
+template <> struct field_list<ravix_event_radar_detected_t> {
   using R = ravix_event_radar_detected_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::expire_ts_uptime, "expire_ts_uptime", decimal, 0, " s"},
-      scalar{&R::freq_start, "freq_start", ravix_str_wifi_freq},
-      scalar{&R::freq_end, "freq_end", ravix_str_wifi_freq},
-      scalar{&R::radar_type, "radar_type", ravix_str_radar_type},
-      scalar{&R::level_dbm, "level_dbm", ravix_str_power, RAVIX_POWER_INVALID},
-      scalar{&R::flags, "flags", ravix_str_bitfield_32},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(expire_ts_uptime, seconds),
+      RAVIX_FIELD(freq_start, channel_frequency),
+      RAVIX_FIELD(freq_end, channel_frequency),
+      RAVIX_FIELD(radar_type, radar_type),
+      RAVIX_FIELD(level_dbm, power),
+      RAVIX_FIELD(flags, bits_32),
   };
 };
 
-template <> struct record<ravix_event_radar_precac_t> {
-  RAVIX_OPERATIONS(ravix_types_event_radar_precac)
+template <> struct field_list<ravix_event_radar_precac_t> {
   using R = ravix_event_radar_precac_t;
   static constexpr std::tuple fields{
-      scalar{&R::radio_id, "radio_id", ravix_str_id},
-      scalar{&R::primary_freq, "primary_freq", ravix_str_wifi_freq},
-      scalar{&R::temp_freq, "temp_freq", ravix_str_wifi_freq},
+      RAVIX_FIELD(radio_id, id),
+      RAVIX_FIELD(primary_freq, channel_frequency),
+      RAVIX_FIELD(temp_freq, channel_frequency),
   };
 };
 
-template <> struct record<ravix_event_client_state_update_t> {
-  RAVIX_OPERATIONS(ravix_types_event_client_state_update)
+template <> struct field_list<ravix_event_client_state_update_t> {
   using R = ravix_event_client_state_update_t;
   static constexpr std::tuple fields{
-      scalar{&R::role_id, "role_id", ravix_str_id},
-      bytes{&R::mac, "mac", ravix_str_mac},
-      scalar{&R::old_state, "old_state", ravix_str_sta_state},
-      scalar{&R::new_state, "new_state", ravix_str_sta_state},
+      RAVIX_FIELD(role_id, id),
+      RAVIX_FIELD(mac, mac),
+      RAVIX_FIELD(old_state, sta_state),
+      RAVIX_FIELD(new_state, sta_state),
   };
 };
 
-template <> struct record<ravix_event_client_activity_update_t> {
-  RAVIX_OPERATIONS(ravix_types_event_client_activity_update)
+template <> struct field_list<ravix_event_client_activity_update_t> {
   using R = ravix_event_client_activity_update_t;
   static constexpr std::tuple fields{
-      scalar{&R::role_id, "role_id", ravix_str_id},
-      bytes{&R::mac, "mac", ravix_str_mac},
-      scalar{&R::active, "active", ravix_str_enabled},
+      RAVIX_FIELD(role_id, id),
+      RAVIX_FIELD(mac, mac),
+      RAVIX_FIELD(active),
   };
 };
 
-template <> struct record<ravix_event_client_rssi_update_t> {
-  RAVIX_OPERATIONS(ravix_types_event_client_rssi_update)
+template <> struct field_list<ravix_event_client_rssi_update_t> {
   using R = ravix_event_client_rssi_update_t;
   static constexpr std::tuple fields{
-      scalar{&R::role_id, "role_id", ravix_str_id},
-      bytes{&R::mac, "mac", ravix_str_mac},
-      scalar{&R::rsni, "rsni", ravix_str_rsni, RAVIX_MEASURE_INVALID},
-      scalar{&R::rcpi, "rcpi", ravix_str_rcpi, RAVIX_MEASURE_INVALID},
-      scalar{&R::anpi, "anpi", ravix_str_anpi, RAVIX_MEASURE_INVALID},
+      RAVIX_FIELD(role_id, id), RAVIX_FIELD(mac, mac),   RAVIX_FIELD(rsni, rsni),
+      RAVIX_FIELD(rcpi, rcpi),  RAVIX_FIELD(anpi, anpi),
   };
 };
 

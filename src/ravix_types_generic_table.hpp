@@ -17,11 +17,11 @@ namespace zel::ravix {
 // Element type of a table.
 template <class T> using element_of = std::remove_pointer_t<decltype(T::data)>;
 
-// What the tables must know of an element type E. The default is for plain elements, which own nothing: copied and
-// compared as bytes. Others have clear, copy and compare, and tell which visits of their elements a table may save.
+// What the tables must know of an element type E. The default is for numbers and addresses: copied and compared as
+// bytes. Others have clear, copy, accepts and compare, and tell which visits of their elements a table may save.
 template <class E> struct element {
-  using source = const E; // what `entry` points to
-  static constexpr bool is_plain = true;
+  using entry = const E; // what an operation that takes one points to
+  static constexpr bool is_bytes = true;
   // A copy overwrites every field, so that the elements to copy into need not be cleared.
   static constexpr bool is_flat = true;
   // Elements own memory or hold secrets, so that they are cleared before their array is released.
@@ -29,13 +29,13 @@ template <class E> struct element {
 };
 
 template <class T>
-concept plain_table = element<element_of<T>>::is_plain;
+concept table_of_bytes = element<element_of<T>>::is_bytes;
 
-template <class T> using entry_of = typename element<element_of<T>>::source;
+template <class T> using entry_of = typename element<element_of<T>>::entry;
 
 namespace table {
 
-inline constexpr const char *source = "src/ravix_types_generic_table";
+inline constexpr const char *own_path = "src/ravix_types_generic_table";
 
 // A table that has no array has no elements, whatever its count says.
 template <class T> std::uint32_t elements(const T &table) {
@@ -43,49 +43,23 @@ template <class T> std::uint32_t elements(const T &table) {
 }
 
 // Whether all elements may be copied.
-template <class T> bool copyable(const T &table) {
+template <class T> bool accepts(const T &table) {
   using E = element_of<T>;
-  if constexpr (requires(const E &e) { element<E>::copyable(e); }) {
-    return std::all_of(table.data, table.data + elements(table), element<E>::copyable);
+  if constexpr (requires(const E &e) { element<E>::accepts(e); }) {
+    return std::all_of(table.data, table.data + elements(table), element<E>::accepts);
   }
   return true;
 }
 
-// The functions below do what is alike for all tables, and speak in the name of the operation that they are part of.
+// The functions below do what tables have in common, and speak in the name of the operation that they are part of.
 
 // Zero-filled elements, or null and a message.
-RAVIX_ALIKE void *allocate_elements(std::uint32_t count, std::size_t size, const char *family) {
-  void *data = slab_dcalloc(count, size, source, __LINE__);
+RAVIX_SHARED void *allocate_elements(std::uint32_t count, std::size_t size, const char *path) {
+  void *data = slab_dcalloc(count, size, own_path, __LINE__);
   if (data == nullptr) [[unlikely]] {
-    log_error({family, "generic_table_init"}, "No memory available!");
+    log_error({path, "generic_table_init"}, "No memory available!");
   }
   return data;
-}
-
-// Null checks of a copy; success or -22. Tests `src` before `dest`, unlike the copy of a record.
-RAVIX_ALIKE int check_copy_arguments(const void *src, const void *dest, const char *family) {
-  if (src == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, "generic_table_copy"}, "src");
-    return invalid_argument;
-  }
-  if (dest == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, "generic_table_copy"}, "dest");
-    return invalid_argument;
-  }
-  return success;
-}
-
-// Null checks of an operation that takes an entry.
-RAVIX_ALIKE bool has_entry_arguments(const void *table, const void *entry, call_site site) {
-  if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer(site, "table");
-    return false;
-  }
-  if (entry == nullptr) [[unlikely]] {
-    log_invalid_pointer(site, "entry");
-    return false;
-  }
-  return true;
 }
 
 // An array with one element more, or null and what to return.
@@ -94,22 +68,22 @@ struct grown_array {
   int code;
 };
 
-RAVIX_ALIKE grown_array grow(void *data, std::uint32_t count, std::uint32_t size, const char *family) {
+RAVIX_SHARED grown_array grow(void *data, std::uint32_t count, std::uint32_t size, const char *path) {
   constexpr const char *function = "generic_table_add_entry";
   if (count == UINT32_MAX) [[unlikely]] {
-    log_error({family, function}, "Maximum number of entries reached!");
+    log_error({path, function}, "Maximum number of entries reached!");
     return {nullptr, invalid_argument};
   }
   // The device's 32-bit arithmetic on every platform: the sum is tested for a wrap, the product deliberately is not.
   const std::uint32_t old_size = count * size;
   const std::uint32_t new_size = old_size + size;
   if (new_size < old_size) [[unlikely]] {
-    log_error({family, function}, "Overflow would occur!");
+    log_error({path, function}, "Overflow would occur!");
     return {nullptr, invalid_argument};
   }
-  void *grown = slab_drealloc(data, data != nullptr ? new_size : size, source, __LINE__);
+  void *grown = slab_drealloc(data, data != nullptr ? new_size : size, own_path, __LINE__);
   if (grown == nullptr) [[unlikely]] {
-    log_error({family, function}, "No memory available!");
+    log_error({path, function}, "No memory available!");
     return {nullptr, out_of_memory};
   }
   return {grown, success};
@@ -123,7 +97,7 @@ template <class T> void generic_table_clear(T *table) {
   }
   using E = element_of<T>;
   if constexpr (element<E>::clear_before_release && element<E>::is_flat) {
-    // Nothing of them need stay; their empty values are of no use any more.
+    // Wipe: they may hold secrets and are about to be freed.
     std::memset(static_cast<void *>(table->data), 0, table->count * sizeof(E));
   } else if constexpr (element<E>::clear_before_release) {
     for (std::uint32_t i = 0; i < table->count; ++i) {
@@ -131,15 +105,15 @@ template <class T> void generic_table_clear(T *table) {
     }
   }
   table->count = 0;
-  slab_cbcontext_free(table->data, table::source, __LINE__);
+  slab_cbcontext_free(table->data, table::own_path, __LINE__);
   table->data = nullptr;
 }
 
 // A table that is about to be copied into may leave its new elements zero-filled.
-template <class T, bool ClearNew = !plain_table<T>>
-int generic_table_init(T *table, unsigned count, const char *family) {
+template <class T, bool ClearNew = !table_of_bytes<T>>
+int generic_table_init(T *table, unsigned count, const char *path) {
   if (table == nullptr) [[unlikely]] {
-    log_invalid_pointer({family, __func__}, "table");
+    log_invalid_pointer({path, __func__}, "table");
     return invalid_argument;
   }
   generic_table_clear(table);
@@ -148,7 +122,7 @@ int generic_table_init(T *table, unsigned count, const char *family) {
     return success;
   }
   using E = element_of<T>;
-  table->data = static_cast<E *>(table::allocate_elements(count, sizeof(E), family));
+  table->data = static_cast<E *>(table::allocate_elements(count, sizeof(E), path));
   if (table->data == nullptr) [[unlikely]] {
     return out_of_memory;
   }
@@ -161,39 +135,39 @@ int generic_table_init(T *table, unsigned count, const char *family) {
   return success;
 }
 
-template <class T> T *generic_table_create(unsigned count, const char *family) {
-  auto *table = static_cast<T *>(slab_dcalloc(1, sizeof(T), table::source, __LINE__));
+template <class T> T *generic_table_create(unsigned count, const char *path) {
+  auto *table = static_cast<T *>(slab_dcalloc(1, sizeof(T), table::own_path, __LINE__));
   if (table == nullptr) [[unlikely]] {
-    log_error({family, __func__}, "No memory available!");
+    log_error({path, __func__}, "No memory available!");
     return nullptr;
   }
-  if (generic_table_init(table, count, family) != success) [[unlikely]] {
-    log_error({family, __func__}, "Init error!");
+  if (generic_table_init(table, count, path) != success) [[unlikely]] {
+    log_error({path, __func__}, "Init error!");
     generic_table_clear(table);
-    slab_cbcontext_free(table, table::source, __LINE__);
+    slab_cbcontext_free(table, table::own_path, __LINE__);
     return nullptr;
   }
   return table;
 }
 
-template <class T> int generic_table_copy(const T *src, T *dest, const char *family) {
-  if (const int code = table::check_copy_arguments(src, dest, family); code != success) [[unlikely]] {
-    return code;
+template <class T> int generic_table_copy(const T *src, T *dest, const char *path) {
+  if (!are_given(src, "src", dest, "dest", {path, __func__})) [[unlikely]] {
+    return invalid_argument;
   }
   if (src == dest) [[unlikely]] {
-    if (!table::copyable(*src)) {
-      log_error({family, __func__}, "Copy error!");
+    if (!table::accepts(*src)) {
+      log_error({path, __func__}, "Copy error!");
       return invalid_argument;
     }
     return success;
   }
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*src);
-  if (const int code = generic_table_init<T, !element<E>::is_flat>(dest, count, family); code != success) [[unlikely]] {
-    log_error({family, __func__}, "Init error!");
+  if (const int code = generic_table_init<T, !element<E>::is_flat>(dest, count, path); code != success) [[unlikely]] {
+    log_error({path, __func__}, "Init error!");
     return code;
   }
-  if constexpr (plain_table<T>) {
+  if constexpr (table_of_bytes<T>) {
     if (count != 0) {
       std::memcpy(dest->data, src->data, count * sizeof(E));
     }
@@ -202,7 +176,7 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
     E *to = dest->data;
     for (const E *end = from + count; from != end; ++from, ++to) {
       if (const int code = element<E>::copy(from, to); code != success) [[unlikely]] {
-        log_error({family, __func__}, "Copy error!");
+        log_error({path, __func__}, "Copy error!");
         generic_table_clear(dest);
         return code;
       }
@@ -211,14 +185,14 @@ template <class T> int generic_table_copy(const T *src, T *dest, const char *fam
   return success;
 }
 
-template <class T> RAVIX_ALIKE int generic_table_add_entry(T *table, entry_of<T> *entry, const char *family) {
-  if (!table::has_entry_arguments(table, entry, {family, __func__})) [[unlikely]] {
+template <class T> RAVIX_SHARED int generic_table_add_entry(T *table, entry_of<T> *entry, const char *path) {
+  if (!are_given(table, "table", entry, "entry", {path, __func__})) [[unlikely]] {
     return invalid_argument;
   }
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*table);
   const auto offset = reinterpret_cast<std::uintptr_t>(entry) - reinterpret_cast<std::uintptr_t>(table->data);
-  const table::grown_array array = table::grow(table->data, table->count, sizeof(E), family);
+  const table::grown_array array = table::grow(table->data, table->count, sizeof(E), path);
   auto *grown = static_cast<E *>(array.data);
   if (grown == nullptr) [[unlikely]] {
     return array.code;
@@ -230,14 +204,14 @@ template <class T> RAVIX_ALIKE int generic_table_add_entry(T *table, entry_of<T>
   table->data = grown;
   table->count = count;
   E *slot = &grown[count];
-  if constexpr (plain_table<T>) {
+  if constexpr (table_of_bytes<T>) {
     std::memcpy(slot, entry, sizeof(E));
   } else {
     if constexpr (!element<E>::is_flat) {
       std::memset(static_cast<void *>(slot), 0, sizeof(E));
     }
     if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
-      log_error({family, __func__}, "Copy error!");
+      log_error({path, __func__}, "Copy error!");
       std::memset(static_cast<void *>(slot), 0, sizeof(E));
       return code;
     }
@@ -246,14 +220,14 @@ template <class T> RAVIX_ALIKE int generic_table_add_entry(T *table, entry_of<T>
   return success;
 }
 
-template <class T> bool generic_table_contains_entry(const T *table, entry_of<T> *entry, const char *family) {
-  if (!table::has_entry_arguments(table, entry, {family, __func__})) [[unlikely]] {
+template <class T> bool generic_table_contains_entry(const T *table, entry_of<T> *entry, const char *path) {
+  if (!are_given(table, "table", entry, "entry", {path, __func__})) [[unlikely]] {
     return false;
   }
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*table);
   for (std::uint32_t i = 0; i < count; ++i) {
-    if constexpr (plain_table<T>) {
+    if constexpr (table_of_bytes<T>) {
       if (std::memcmp(&table->data[i], entry, sizeof(E)) == 0) {
         return true;
       }
@@ -276,7 +250,7 @@ template <class T> int generic_table_compare(const T *a, const T *b) {
     return (table::elements(*a) != 0) - (table::elements(*b) != 0);
   }
   using E = element_of<T>;
-  if constexpr (plain_table<T>) {
+  if constexpr (table_of_bytes<T>) {
     return std::memcmp(a->data, b->data, a->count * sizeof(E));
   } else {
     for (std::uint32_t i = 0; i < a->count; ++i) {

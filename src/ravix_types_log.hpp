@@ -9,13 +9,13 @@ namespace zel::ravix {
 // Where a message is raised. Functions that log take one as `call_site site = <source path>`, so that the function name
 // and line are those of the caller and nobody types them. The path is that of the family's source, without ending.
 struct call_site {
-  const char *file;
+  const char *path;
   const char *function;
   int line;
 
-  constexpr call_site(const char *source, // NOLINT(google-explicit-constructor): meant to convert
+  constexpr call_site(const char *source_path, // NOLINT(google-explicit-constructor): meant to convert
                       const char *function_name = __builtin_FUNCTION(), int line_number = __builtin_LINE())
-      : file(source), function(function_name), line(line_number) {}
+      : path(source_path), function(function_name), line(line_number) {}
 };
 
 // The functions below write one error-level line. They never throw: a line for which no memory is left is lost.
@@ -24,36 +24,36 @@ struct call_site {
 // stack of every function that may fail.
 namespace line {
 
-[[gnu::cold, gnu::noinline]] void log_error(const char *file, const char *function, int line,
+[[gnu::cold, gnu::noinline]] void log_error(const char *path, const char *function, int line,
                                             const char *message) noexcept;
-[[gnu::cold, gnu::noinline]] void log_error(const char *file, const char *function, int line,
+[[gnu::cold, gnu::noinline]] void log_error(const char *path, const char *function, int line,
                                             std::initializer_list<std::string_view> parts) noexcept;
-[[gnu::cold, gnu::noinline]] void log_invalid_pointer(const char *file, const char *function, int line,
+[[gnu::cold, gnu::noinline]] void log_invalid_pointer(const char *path, const char *function, int line,
                                                       const char *argument) noexcept;
-[[gnu::cold, gnu::noinline]] void log_assertion(const char *file, const char *function, int line,
+[[gnu::cold, gnu::noinline]] void log_assertion(const char *path, const char *function, int line,
                                                 const char *expression) noexcept;
 
 } // namespace line
 
 // A line of module "ravix".
 [[gnu::always_inline]] inline void log_error(const call_site &site, const char *message) noexcept {
-  line::log_error(site.file, site.function, site.line, message);
+  line::log_error(site.path, site.function, site.line, message);
 }
 
 // The same in several parts.
 [[gnu::always_inline]] inline void log_error(const call_site &site,
                                              std::initializer_list<std::string_view> parts) noexcept {
-  line::log_error(site.file, site.function, site.line, parts);
+  line::log_error(site.path, site.function, site.line, parts);
 }
 
 // "Invalid pointer '<argument>'!"
 [[gnu::always_inline]] inline void log_invalid_pointer(const call_site &site, const char *argument) noexcept {
-  line::log_invalid_pointer(site.file, site.function, site.line, argument);
+  line::log_invalid_pointer(site.path, site.function, site.line, argument);
 }
 
 // "ASSERT: <expression>", to the default logger rather than to module "ravix". Execution goes on.
 [[gnu::always_inline]] inline void log_assertion(const call_site &site, const char *expression) noexcept {
-  line::log_assertion(site.file, site.function, site.line, expression);
+  line::log_assertion(site.path, site.function, site.line, expression);
 }
 
 } // namespace zel::ravix

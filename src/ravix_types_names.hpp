@@ -49,6 +49,22 @@ consteval auto make_name_table(const named<Values, Sizes> &...entries) {
   return table;
 }
 
+// A name table of any size.
+template <class Value> struct name_list {
+  const Value *values = nullptr;
+  const std::uint16_t *begins = nullptr;
+  const char *text = nullptr;
+  std::size_t count = 0;
+
+  constexpr name_list() = default;
+  template <std::size_t Count, std::size_t Characters>
+  constexpr name_list(const name_table<Value, Count, Characters> &table) // NOLINT(google-explicit-constructor)
+      : values(table.values.data()), begins(table.begins.data()), text(table.text.data()), count(Count) {}
+
+  constexpr const char *name(std::size_t index) const { return text + begins[index]; }
+  constexpr std::size_t length(std::size_t index) const { return std::size_t{begins[index + 1]} - begins[index] - 1; }
+};
+
 inline constexpr auto status_names = make_name_table<std::int32_t>(
     named{RAVIX_STATUS_SUCCESS, "SUCCESS"}, named{RAVIX_STATUS_FINISHED, "FINISHED"},
     named{RAVIX_STATUS_PENDING, "PENDING"}, named{RAVIX_STATUS_READY, "READY"},
@@ -345,5 +361,46 @@ inline constexpr auto enabled_names = make_name_table<std::int32_t>(named{true, 
 inline constexpr auto id_names =
     make_name_table<std::int32_t>(named{RAVIX_ID_INVALID, "INVALID"}, named{RAVIX_ID_ALL, "ALL"},
                                   named{RAVIX_ID_NONE, "NONE"}, named{RAVIX_ID_UNSPECIFIED, "UNSPECIFIED"});
+
+// The enumerations whose values are shown as names, each with the type that its formatter takes and the one that a
+// value without a name is shown as: ravix_str_<name>(), <name>_names above, and the meaning of fields of that name
+// follow.
+#define RAVIX_ENUMERATIONS(ENUMERATION)                                                                                \
+  ENUMERATION(device_class, uint32_t, uint32_t)                                                                        \
+  ENUMERATION(encryption, uint32_t, uint32_t)                                                                          \
+  ENUMERATION(encryption_akm, uint32_t, uint32_t)                                                                      \
+  ENUMERATION(encryption_cipher_suite, uint32_t, uint32_t)                                                             \
+  ENUMERATION(encryption_group_mgmt_cipher, uint32_t, uint32_t)                                                        \
+  ENUMERATION(pmf_mode, uint32_t, uint32_t)                                                                            \
+  ENUMERATION(pwe_mode, uint32_t, uint32_t)                                                                            \
+  ENUMERATION(radio_band, uint32_t, uint32_t)                                                                          \
+  ENUMERATION(radio_sub_band, uint32_t, uint32_t)                                                                      \
+  ENUMERATION(mac_access_type, uint32_t, uint32_t)                                                                     \
+  ENUMERATION(simulated_event_type, uint32_t, uint32_t)                                                                \
+  ENUMERATION(role_opmode, uint32_t, uint32_t)                                                                         \
+  ENUMERATION(station_type, uint32_t, uint32_t)                                                                        \
+  ENUMERATION(sta_state, uint32_t, uint32_t)                                                                           \
+  ENUMERATION(special_handling_trigger, uint32_t, uint32_t)                                                            \
+  ENUMERATION(security, uint32_t, uint32_t)                                                                            \
+  ENUMERATION(role_state, uint32_t, uint32_t)                                                                          \
+  ENUMERATION(radar_type, uint32_t, uint32_t)                                                                          \
+  ENUMERATION(event, uint32_t, uint32_t)                                                                               \
+  ENUMERATION(device_opmode, uint32_t, uint32_t)                                                                       \
+  ENUMERATION(connect_status, int32_t, int32_t)                                                                        \
+  ENUMERATION(connect_method, int32_t, uint32_t)                                                                       \
+  ENUMERATION(channel_width, uint32_t, uint32_t)                                                                       \
+  ENUMERATION(channel_change_reason, uint32_t, uint32_t)                                                               \
+  ENUMERATION(param_id, uint32_t, uint32_t)
+
+// The sets of flags, each with the type that its formatter takes.
+#define RAVIX_FLAG_SETS(FLAG_SET)                                                                                      \
+  FLAG_SET(channel_capabilities, uint32_t)                                                                             \
+  FLAG_SET(wlan_mode, uint32_t)                                                                                        \
+  FLAG_SET(channel_user_flags, uint32_t)                                                                               \
+  FLAG_SET(event_log_control, uint32_t)                                                                                \
+  FLAG_SET(mlo_mode, uint32_t)                                                                                         \
+  FLAG_SET(features, uint64_t)                                                                                         \
+  FLAG_SET(channel_state, uint32_t)                                                                                    \
+  FLAG_SET(capabilities, uint32_t)
 
 } // namespace zel::ravix

@@ -45,12 +45,6 @@ template <> inline constexpr const char *heading<ravix_remote_client_entry_t> = 
 template <> inline constexpr const char *heading<ravix_remote_ap_entry_t> = "REMOTE AP";
 template <> inline constexpr const char *heading<ravix_station_history_entry_t> = "STATION HISTORY";
 
-template <class T>
-concept table_record = has_record<T> && requires(const T &table) {
-  table.count;
-  table.data;
-};
-
 template <class E> inline constexpr bool has_heading = heading<E> != nullptr;
 
 template <class T>
@@ -138,7 +132,7 @@ public:
   // ---- difference prints: nothing for a value that equals its reference
 
   template <class T> void diff(const T &value, const T *ref, const char *name, unsigned indent, bool newline) {
-    if (ref != nullptr && record<T>::compare(&value, ref) == 0) {
+    if (ref != nullptr && operations<T>::compare(&value, ref) == 0) {
       return;
     }
     if constexpr (value_record<T>) {
@@ -176,9 +170,9 @@ public:
 
 private:
   // A log line stays short: longer tables are only named as such.
-  static constexpr std::uint32_t most_entries = 50;
+  static constexpr std::uint32_t max_entries = 50;
   // Tables of short texts share one line up to this number.
-  static constexpr std::uint32_t most_on_one_line = 5;
+  static constexpr std::uint32_t max_on_one_line = 5;
 
   void signed_decimal(std::int64_t number, std::size_t width);
   void unsigned_decimal(std::uint64_t number, std::size_t width);
@@ -195,8 +189,8 @@ private:
   void content(const ravix_tlv_t &tlv, unsigned indent);
 
   template <class R> void diff_fields(const R &r, const R *ref, unsigned indent, bool newline) {
-    std::size_t left_over = std::tuple_size_v<decltype(record<R>::fields)>;
-    for_each_field<R>([&](const auto &field) { diff_field(field, r, ref, indent, --left_over != 0 || newline); });
+    std::size_t remaining = field_count<R>;
+    for_each_field<R>([&](const auto &field) { diff_field(field, r, ref, indent, --remaining != 0 || newline); });
   }
 
   template <class Kind, class R>
@@ -221,10 +215,10 @@ private:
         header(heading<element_of<T>>, i);
         diff<element_of<T>>(table.data[i], nullptr, nullptr, indent + 1, i + 1 < count);
       }
-    } else if (count > most_entries) {
+    } else if (count > max_entries) {
       blanks(indent);
       text("-- too many entries --");
-    } else if (std::integral<element_of<T>> && count <= most_on_one_line) {
+    } else if (std::integral<element_of<T>> && count <= max_on_one_line) {
       blanks(indent);
       for (std::uint32_t i = 0; i < count; ++i) {
         text(i == 0 ? "" : ", ");
@@ -247,7 +241,7 @@ private:
     } else if constexpr (std::same_as<element_of<T>, char *>) {
       quoted(element);
     } else {
-      text(std::get<0>(record<T>::fields).text(element));
+      std::remove_cvref_t<decltype(std::get<0>(field_list<T>::fields))>::meaning::print(*this, element);
     }
   }
 

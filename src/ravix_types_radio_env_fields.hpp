@@ -6,112 +6,81 @@
 
 namespace zel::ravix {
 
-template <> struct record<ravix_scan_parameter_t> {
-  RAVIX_OPERATIONS(ravix_types_scan_parameter)
+template <> struct field_list<ravix_scan_parameter_t> {
   using R = ravix_scan_parameter_t;
   static constexpr std::tuple fields{
-      nested{&R::frequencies, "frequencies"},
-      nested{&R::ssids, "ssids"},
-      nested{&R::bssids, "bssids"},
+      RAVIX_FIELD(frequencies),
+      RAVIX_FIELD(ssids),
+      RAVIX_FIELD(bssids),
   };
 };
 
-template <> struct record<ravix_scan_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_scan_entry)
+template <> struct field_list<ravix_scan_entry_t> {
   using R = ravix_scan_entry_t;
   static constexpr std::tuple fields{
-      scalar{&R::wlan_mode, "wlan_mode", ravix_str_wlan_mode},
-      bytes{&R::bssid, "bssid", ravix_str_mac},
-      nested{&R::ssid, "ssid"},
-      nested{&R::channel_info, "channel_info"},
-      scalar{&R::rssi, "rssi", ravix_str_power, RAVIX_POWER_INVALID},
-      scalar{&R::capabilities, "capabilities", ravix_str_capabilities},
+      RAVIX_FIELD(wlan_mode, wlan_mode), RAVIX_FIELD(bssid, mac),  RAVIX_FIELD(ssid),
+      RAVIX_FIELD(channel_info),         RAVIX_FIELD(rssi, power), RAVIX_FIELD(capabilities, capabilities),
   };
 };
 
-template <> struct record<ravix_scan_table_t> {
-  RAVIX_TABLE_OPERATIONS(ravix_types_scan_table)
-  using T = ravix_scan_table_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <> struct field_list<ravix_scan_table_t> : table_fields<ravix_scan_table_t> {};
 
-template <> struct record<ravix_noisefloor_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_noisefloor_entry)
+template <> struct field_list<ravix_noisefloor_entry_t> {
   using R = ravix_noisefloor_entry_t;
   static constexpr std::tuple fields{
-      scalar{&R::frequency, "frequency", ravix_str_wifi_freq},
-      scalar{&R::noisefloor, "noisefloor", ravix_str_anpi, RAVIX_MEASURE_INVALID},
-      scalar{&R::load, "load", decimal, RAVIX_MEASURE_INVALID},
+      RAVIX_FIELD(frequency, channel_frequency),
+      RAVIX_FIELD(noisefloor, anpi),
+      RAVIX_FIELD(load, measure),
   };
 };
 
-template <> struct record<ravix_noisefloor_table_t> {
-  RAVIX_TABLE_OPERATIONS(ravix_types_noisefloor_table)
-  using T = ravix_noisefloor_table_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <> struct field_list<ravix_noisefloor_table_t> : table_fields<ravix_noisefloor_table_t> {};
 
-template <> struct record<ravix_scan_results_t> {
-  RAVIX_OPERATIONS(ravix_types_scan_results)
+template <> struct field_list<ravix_scan_results_t> {
   using R = ravix_scan_results_t;
   static constexpr std::tuple fields{
-      scalar{&R::scan_time, "scan_time", ravix_str_timestamp, RAVIX_TIMESTAMP_INVALID},
-      nested{&R::noisefloor_table, "noisefloor_table"},
-      nested{&R::scan_table, "scan_table"},
+      RAVIX_FIELD(scan_time, timestamp),
+      RAVIX_FIELD(noisefloor_table),
+      RAVIX_FIELD(scan_table),
   };
 };
 
-template <> struct record<ravix_channel_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_channel_entry)
+template <> struct field_list<ravix_channel_entry_t> {
   using R = ravix_channel_entry_t;
   static constexpr std::tuple fields{
-      scalar{&R::frequency, "frequency", ravix_str_wifi_freq},
-      scalar{&R::max_power, "max_power", ravix_str_power, RAVIX_POWER_INVALID},
-      scalar{&R::capabilities, "capabilities", ravix_str_channel_capabilities},
-      scalar{&R::state, "state", ravix_str_channel_state},
-      scalar{&R::user_flags, "user_flags", ravix_str_channel_user_flags},
+      RAVIX_FIELD(frequency, channel_frequency),       RAVIX_FIELD(max_power, power),
+      RAVIX_FIELD(capabilities, channel_capabilities), RAVIX_FIELD(state, channel_state),
+      RAVIX_FIELD(user_flags, channel_user_flags),
   };
 };
 
-template <> struct record<ravix_channel_list_t> {
-  RAVIX_TABLE_OPERATIONS(ravix_types_channel_list)
-  using T = ravix_channel_list_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <> struct field_list<ravix_channel_list_t> : table_fields<ravix_channel_list_t> {};
 
-template <> struct record<ravix_radio_load_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_radio_load_entry)
+template <> struct field_list<ravix_radio_load_entry_t> {
   using R = ravix_radio_load_entry_t;
   static constexpr std::tuple fields{
-      scalar{&R::global_usage, "global_usage", ravix_str_percentage, RAVIX_MEASURE_INVALID},
-      scalar{&R::own_tx_usage, "own_tx_usage", ravix_str_percentage, RAVIX_MEASURE_INVALID},
+      RAVIX_FIELD(global_usage, percentage),
+      RAVIX_FIELD(own_tx_usage, percentage),
   };
 };
 
-template <> struct record<ravix_radio_load_table_t> {
-  RAVIX_TABLE_OPERATIONS(ravix_types_radio_load_table)
-  using T = ravix_radio_load_table_t;
-  static constexpr std::tuple fields{entries{&T::count, &T::data}};
-};
+template <> struct field_list<ravix_radio_load_table_t> : table_fields<ravix_radio_load_table_t> {};
 
-template <> struct record<ravix_radio_airtime_entry_t> {
-  RAVIX_OPERATIONS(ravix_types_radio_airtime_entry)
+template <> struct field_list<ravix_radio_airtime_entry_t> {
   using R = ravix_radio_airtime_entry_t;
-  static constexpr float unknown = -1.0F;
   static constexpr std::tuple fields{
-      scalar{&R::rxc, "rxc", decimal, unknown},
-      scalar{&R::rxf, "rxf", decimal, unknown},
-      scalar{&R::txf, "txf", decimal, unknown},
-      scalar{&R::noisefloor, "noisefloor", decimal, unknown},
+      RAVIX_FIELD(rxc, airtime),
+      RAVIX_FIELD(rxf, airtime),
+      RAVIX_FIELD(txf, airtime),
+      RAVIX_FIELD(noisefloor, airtime),
   };
 };
 
-template <> struct record<ravix_radio_airtime_table_t> {
-  RAVIX_TABLE_OPERATIONS(ravix_types_radio_airtime_table)
-  using T = ravix_radio_airtime_table_t;
+template <> struct field_list<ravix_radio_airtime_table_t> {
+  using R = ravix_radio_airtime_table_t;
   static constexpr std::tuple fields{
-      scalar{&T::airtime_base, "airtime_base"},
-      entries{&T::count, &T::data},
+      RAVIX_FIELD(airtime_base),
+      entries<R>{"data", offsetof(R, count)},
   };
 };
 

@@ -1,17 +1,13 @@
 #include "ravix_types_sta_fields.hpp"
 
+#include "ravix_types_define.hpp"
+
 namespace {
 constexpr const char *here = "src/ravix_types_sta";
 }
 
-RAVIX_RECORD(ravix_types_station_entry, ravix_station_entry_t)
-RAVIX_TABLE(ravix_types_station_table, ravix_station_table_t)
-RAVIX_RECORD(ravix_types_remote_client_entry, ravix_remote_client_entry_t)
-RAVIX_TABLE(ravix_types_remote_client_table, ravix_remote_client_table_t)
-RAVIX_RECORD(ravix_types_remote_ap_entry, ravix_remote_ap_entry_t)
-RAVIX_TABLE(ravix_types_remote_ap_table, ravix_remote_ap_table_t)
-RAVIX_RECORD(ravix_types_station_history_entry, ravix_station_history_entry_t)
-RAVIX_TABLE(ravix_types_station_history_table, ravix_station_history_table_t)
+#define RAVIX_STA_RECORD RAVIX_DEFINE
+#include "ravix_types_records.def"
 
 ravix_station_history_t *ravix_types_station_history_create(unsigned capacity) {
   auto *history =

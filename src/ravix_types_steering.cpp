@@ -26,7 +26,7 @@ template <> struct target<ravix_ap_channel_report_t> {
 
 // Zeroed elements, or null after a log line.
 template <class E> E *allocate(unsigned count, call_site site) {
-  auto *array = static_cast<E *>(slab_dcalloc(count, sizeof(E), site.file, site.line));
+  auto *array = static_cast<E *>(slab_dcalloc(count, sizeof(E), site.path, site.line));
   if (array == nullptr) {
     log_error(site, "No memory available!");
   }
@@ -35,7 +35,7 @@ template <class E> E *allocate(unsigned count, call_site site) {
 
 // Releases an owned array and leaves none.
 template <class E> void release(E *&array, call_site site) {
-  slab_cbcontext_free(array, site.file, site.line);
+  slab_cbcontext_free(array, site.path, site.line);
   array = nullptr;
 }
 

@@ -44,16 +44,16 @@ const char *publish(std::string_view text) {
   return format_buffer.finish();
 }
 
-// Publishes the text that `build` writes: it gets a place for at most `Most` characters and returns their end. The text
-// grows where it is to stay, unless the area's end is so near that it might not fit; so `build` must change no
+// Publishes the text that `build` writes: it gets a place for at most `Longest` characters and returns their end. The
+// text grows where it is to stay, unless the area's end is so near that it might not fit; so `build` must change no
 // character past the end but the next one, where the terminator goes: older texts lie there. Always inlined, since out
 // of line the values would have to be handed over through memory, at a sixth of the whole cost.
-template <std::size_t Most, class Build> [[gnu::always_inline]] inline const char *build_text(Build build) {
+template <std::size_t Longest, class Build> [[gnu::always_inline]] inline const char *build_text(Build build) {
   const std::lock_guard lock(format_mutex);
-  if (char *place = format_buffer.room_for(Most); place != nullptr) [[likely]] {
+  if (char *place = format_buffer.room_for(Longest); place != nullptr) [[likely]] {
     format_buffer.advance_to(build(place));
   } else {
-    char text[Most];
+    char text[Longest];
     (void)format_buffer.try_append({text, static_cast<std::size_t>(build(text) - text)}); // never cut, as above
   }
   return format_buffer.finish();
@@ -198,22 +198,6 @@ constexpr unsigned uuid_separated = 0b10101010000;
 
 // --- Names ---
 
-// A name table of any size.
-template <class Value> struct name_list {
-  const Value *values = nullptr;
-  const std::uint16_t *begins = nullptr;
-  const char *text = nullptr;
-  std::size_t count = 0;
-
-  constexpr name_list() = default;
-  template <std::size_t Count, std::size_t Characters>
-  constexpr name_list(const name_table<Value, Count, Characters> &table) // NOLINT(google-explicit-constructor)
-      : values(table.values.data()), begins(table.begins.data()), text(table.text.data()), count(Count) {}
-
-  constexpr const char *name(std::size_t index) const { return text + begins[index]; }
-  constexpr std::size_t length(std::size_t index) const { return std::size_t{begins[index + 1]} - begins[index] - 1; }
-};
-
 using value_list = name_list<std::int32_t>;
 
 const char *find_name(const value_list &names, std::int32_t value) {
@@ -242,11 +226,11 @@ template <class Shown> const char *name_or_number(const value_list &names, Shown
 }
 
 // Characters of the longest set of flags.
-constexpr std::size_t flags_most = 320;
+constexpr std::size_t longest_flags = 320;
 
 // Copies the block of each name, since a copy of fixed size is a few instructions; so it builds in a place of its own.
 template <class Mask> const char *flags_text(const name_list<Mask> &names, Mask value) {
-  char text[flags_most];
+  char text[longest_flags];
   char *out = put(text, "[ ");
   for (std::size_t i = 0; i < names.count; ++i) {
     if ((names.values[i] & ~value) == 0) {
@@ -261,7 +245,7 @@ template <class Mask> const char *flags_text(const name_list<Mask> &names, Mask 
 
 template <class Mask, std::size_t Count, std::size_t Characters>
 const char *flags_text(const name_table<Mask, Count, Characters> &table, Mask value) {
-  static_assert(sizeof "[ ]" + Characters + name_block <= flags_most);
+  static_assert(sizeof "[ ]" + Characters + name_block <= longest_flags);
   return flags_text(name_list<Mask>(table), value);
 }
 
@@ -515,55 +499,16 @@ const char *ravix_str_enabled(uint32_t enabled) {
 }
 
 // A formatter per list of names.
-#define RAVIX_STR_VALUE(what)                                                                                          \
-  const char *ravix_str_##what(uint32_t value) {                                                                       \
-    return name_or_number(what##_names, value);                                                                        \
+#define RAVIX_STR_VALUE(what, argument, shown)                                                                         \
+  const char *ravix_str_##what(argument value) {                                                                       \
+    return name_or_number(what##_names, static_cast<shown>(value));                                                    \
   }
-#define RAVIX_STR_FLAGS(what, type)                                                                                    \
-  const char *ravix_str_##what(type value) {                                                                           \
+#define RAVIX_STR_FLAGS(what, argument)                                                                                \
+  const char *ravix_str_##what(argument value) {                                                                       \
     return flags_text(what##_names, value);                                                                            \
   }
-
-RAVIX_STR_VALUE(device_class)
-RAVIX_STR_VALUE(encryption)
-RAVIX_STR_VALUE(encryption_akm)
-RAVIX_STR_VALUE(encryption_cipher_suite)
-RAVIX_STR_VALUE(encryption_group_mgmt_cipher)
-RAVIX_STR_VALUE(pmf_mode)
-RAVIX_STR_VALUE(pwe_mode)
-RAVIX_STR_VALUE(radio_band)
-RAVIX_STR_VALUE(radio_sub_band)
-RAVIX_STR_VALUE(mac_access_type)
-RAVIX_STR_VALUE(simulated_event_type)
-RAVIX_STR_VALUE(role_opmode)
-RAVIX_STR_VALUE(station_type)
-RAVIX_STR_VALUE(sta_state)
-RAVIX_STR_VALUE(special_handling_trigger)
-RAVIX_STR_VALUE(security)
-RAVIX_STR_VALUE(role_state)
-RAVIX_STR_VALUE(radar_type)
-RAVIX_STR_VALUE(event)
-RAVIX_STR_VALUE(device_opmode)
-RAVIX_STR_VALUE(channel_width)
-RAVIX_STR_VALUE(channel_change_reason)
-RAVIX_STR_VALUE(param_id)
-
-const char *ravix_str_connect_status(int32_t value) {
-  return name_or_number(connect_status_names, value);
-}
-
-const char *ravix_str_connect_method(int32_t value) {
-  return name_or_number(connect_method_names, static_cast<uint32_t>(value));
-}
-
-RAVIX_STR_FLAGS(channel_capabilities, uint32_t)
-RAVIX_STR_FLAGS(wlan_mode, uint32_t)
-RAVIX_STR_FLAGS(channel_user_flags, uint32_t)
-RAVIX_STR_FLAGS(event_log_control, uint32_t)
-RAVIX_STR_FLAGS(mlo_mode, uint32_t)
-RAVIX_STR_FLAGS(features, uint64_t)
-RAVIX_STR_FLAGS(channel_state, uint32_t)
-RAVIX_STR_FLAGS(capabilities, uint32_t)
+RAVIX_ENUMERATIONS(RAVIX_STR_VALUE)
+RAVIX_FLAG_SETS(RAVIX_STR_FLAGS)
 
 namespace {
 
@@ -595,8 +540,8 @@ std::optional<std::int64_t> find_value(const value_list &names, std::string_view
 
 // What a parser accepts.
 struct accepted_values {
-  std::int64_t least;
-  std::int64_t most;
+  std::int64_t lowest;
+  std::int64_t highest;
   value_list names = {};   // without names a leading "-" is a sign, with names it is a letter like any other
   bool named_only = false; // numbers must have a name
   bool any_digit = true;   // but a single digit need not
@@ -620,7 +565,7 @@ std::optional<std::int64_t> parse(std::string_view text, const accepted_values &
   if (text.size() == 1 && accepted.any_digit) {
     return value;
   }
-  if (value < accepted.least || value > accepted.most ||
+  if (value < accepted.lowest || value > accepted.highest ||
       (accepted.named_only && find_name(accepted.names, static_cast<std::int32_t>(value)) == nullptr)) {
     return std::nullopt;
   }

@@ -41,9 +41,10 @@ public:
   [[gnu::format(printf, 2, 0)]] [[nodiscard]] bool try_vwrite(const char *format, va_list args) noexcept;
   [[nodiscard]] bool try_append(std::string_view text) noexcept;
 
-  // Building in place: where to put at most `most` characters, or null if so many might not fit; then the end of them.
-  char *room_for(std::size_t most) noexcept {
-    return static_cast<std::size_t>(buffer + capacity - cursor) > most ? cursor : nullptr;
+  // Building in place: where to put at most `longest` characters, or null if so many might not fit; then the end of
+  // them.
+  char *room_for(std::size_t longest) noexcept {
+    return static_cast<std::size_t>(buffer + capacity - cursor) > longest ? cursor : nullptr;
   }
   void advance_to(char *end) noexcept {
     *end = '\0';

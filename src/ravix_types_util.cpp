@@ -1,11 +1,10 @@
 #include "ravix_types_util.h"
 
 #include "ravix_types_log.hpp"
-#include "ravix_types_str_convert.h"
+#include "ravix_types_radio.hpp"
 
 #include <algorithm>
 #include <bit>
-#include <cerrno>
 #include <cfloat>
 #include <cmath>
 #include <cstddef>
@@ -14,10 +13,8 @@
 #include <span>
 #include <utility>
 
-using zel::ravix::call_site;
 using zel::ravix::log_assertion;
-using zel::ravix::log_error;
-using zel::ravix::log_invalid_pointer;
+using namespace zel::ravix::radio;
 
 namespace {
 
@@ -32,12 +29,12 @@ struct numbering {
   uint32_t start, spacing;
 };
 constexpr numbering numberings[] = {
-    {2407001, 2483999, 2407000, 5000},       // class 81
-    {2484000, 2484000, 2414000, 5000},       // class 82: channel 14
-    {5000001, 5929999, 5000000, 5000},       // classes 115 to 130
-    {5930000, 5954999, 5925000, 5000},       // class 136: channel 2
-    {5955000, 7124999, 5950000, 5000},       // classes 131 to 135, 137
-    {56160001, 64800000, 56160000, 2160000}, // class 180
+    {start_2ghz + 1, channel_14 - 1, start_2ghz, channel_spacing}, // class 81
+    {channel_14, channel_14, 2414000, channel_spacing},            // class 82: channel 14
+    {start_5ghz + 1, 5929999, start_5ghz, channel_spacing},        // classes 115 to 130
+    {5930000, 5954999, 5925000, channel_spacing},                  // class 136: channel 2
+    {5955000, 7124999, start_6ghz, channel_spacing},               // classes 131 to 135, 137
+    {56160001, 64800000, 56160000, 2160000},                       // class 180
 };
 
 struct band_range {
@@ -59,11 +56,10 @@ struct band_numbers {
   uint32_t first, last;
 };
 constexpr band_numbers band_numberings[] = {
-    {RAVIX_RADIO_BAND_2GHZ, 2407000, 1, 14},
-    {RAVIX_RADIO_BAND_5GHZ, 5000000, 36, 177},
-    {RAVIX_RADIO_BAND_6GHZ, 5950000, 1, 0},
+    {RAVIX_RADIO_BAND_2GHZ, start_2ghz, 1, number_of_channel_14},
+    {RAVIX_RADIO_BAND_5GHZ, start_5ghz, 36, 177},
+    {RAVIX_RADIO_BAND_6GHZ, start_6ghz, 1, 0},
 };
-constexpr uint32_t channel_spacing = 5000;
 
 // Channels that may be primary. Channels 32, 68 to 96 and those of 4.9 GHz are left out: no radio of ours uses them.
 struct primary_range {
@@ -71,12 +67,12 @@ struct primary_range {
   uint32_t spacing;
 };
 constexpr primary_range primaries[] = {
-    {2412000, 2472000, 5000},  // 1 to 13: class 81
-    {2484000, 2484000, 5000},  // 14: class 82
-    {5180000, 5320000, 20000}, // 36 to 64: classes 115 and 118
-    {5500000, 5720000, 20000}, // 100 to 144: class 121
-    {5745000, 5885000, 20000}, // 149 to 177: class 125
-    {5955000, 7115000, 20000}, // 6 GHz, 1 to 233: class 131
+    {2412000, 2472000, 5000},                  // 1 to 13: class 81
+    {channel_14, channel_14, channel_spacing}, // 14: class 82
+    {5180000, 5320000, 20000},                 // 36 to 64: classes 115 and 118
+    {5500000, 5720000, 20000},                 // 100 to 144: class 121
+    {5745000, 5885000, 20000},                 // 149 to 177: class 125
+    {5955000, 7115000, 20000},                 // 6 GHz, 1 to 233: class 131
 };
 
 struct channel_width {
@@ -84,10 +80,9 @@ struct channel_width {
   uint32_t khz;
 };
 constexpr channel_width widths[] = {
-    {RAVIX_CHANNEL_WIDTH_20, 20000},   {RAVIX_CHANNEL_WIDTH_40, 40000},   {RAVIX_CHANNEL_WIDTH_80, 80000},
-    {RAVIX_CHANNEL_WIDTH_160, 160000}, {RAVIX_CHANNEL_WIDTH_320, 320000},
+    {RAVIX_CHANNEL_WIDTH_20, width_20_khz}, {RAVIX_CHANNEL_WIDTH_40, 40000},   {RAVIX_CHANNEL_WIDTH_80, 80000},
+    {RAVIX_CHANNEL_WIDTH_160, 160000},      {RAVIX_CHANNEL_WIDTH_320, 320000},
 };
-constexpr uint32_t width_20_khz = widths[0].khz;
 constexpr uint32_t width_capabilities = RAVIX_CHANNEL_CAP_HT20 | RAVIX_CHANNEL_CAP_HT40 | RAVIX_CHANNEL_CAP_HT80 |
                                         RAVIX_CHANNEL_CAP_HT160 | RAVIX_CHANNEL_CAP_HT320;
 
@@ -123,8 +118,6 @@ constexpr half_decibels channel_power = {-110.0F, -109.5F, 0.0F};
 constexpr half_decibels signal_to_noise = {-10.0F, -10.0F, 117.0F};
 
 // 2.4 GHz. The 40 MHz channels are made of any two channels four apart (classes 83 and 84).
-constexpr uint32_t channel_14 = 2484000;
-constexpr uint32_t number_of_channel_14 = 14;
 constexpr int32_t highest_channel_but_14 = 13;
 constexpr uint32_t highest_primary_with_upper_second = 2452000;
 constexpr uint32_t lowest_primary_with_lower_second = 2432000;
@@ -162,7 +155,7 @@ constexpr uint16_t patterns_320[] = {0x0003, 0x000C, 0x0030, 0x00C0, 0x0300, 0x0
                                      0x000F, 0x00F0, 0x0F00, 0xF000, 0xF003, 0xF00C, 0xF030, 0xF0C0,
                                      0xF300, 0xFC00, 0x003F, 0x00CF, 0x030F, 0x0C0F, 0x300F, 0xC00F};
 
-constexpr ravix_channel_info_t not_made = {0, 0, RAVIX_CHANNEL_WIDTH_INVALID, RAVIX_PUNCTURE_MAP_INVALID};
+constexpr ravix_channel_info_t no_channel = {0, 0, RAVIX_CHANNEL_WIDTH_INVALID, RAVIX_PUNCTURE_MAP_INVALID};
 
 template <typename Row, std::size_t size> constexpr bool ascends(const Row (&rows)[size]) {
   return std::ranges::all_of(rows, [](const Row &row) { return row.first <= row.last; }) &&
@@ -248,34 +241,6 @@ uint32_t center_of_channel(uint32_t primary_freq, uint16_t width_code, bool ext_
     return width_code == RAVIX_CHANNEL_WIDTH_40 ? center_of_pair(primary_freq, ext_high) : 0;
   }
   return center_of_block(band, primary_freq, *width, ext_high);
-}
-
-// Whether the channels of a width lie on either side of a primary channel.
-bool has_pairs(uint32_t primary_freq, uint16_t width) {
-  return width == RAVIX_CHANNEL_WIDTH_40 && ravix_frequency_to_radio_band(primary_freq) == RAVIX_RADIO_BAND_2GHZ;
-}
-bool has_overlapping_blocks(uint32_t primary_freq, uint16_t width) {
-  return width == RAVIX_CHANNEL_WIDTH_320 && ravix_frequency_to_radio_band(primary_freq) == RAVIX_RADIO_BAND_6GHZ;
-}
-
-// A list that claims entries but has no array counts as empty.
-std::span<const ravix_channel_entry_t> entries(const ravix_channel_list_t &list) {
-  return {list.data, list.data != nullptr ? list.count : 0};
-}
-
-struct clearance {
-  uint32_t state_mask;
-  bool clear;
-};
-
-void note_clearance(const ravix_channel_entry_t *entry, void *context, uint32_t /*frequency*/) {
-  auto *const found = static_cast<clearance *>(context);
-  found->clear = found->clear && (entry->state & found->state_mask) == 0;
-}
-
-int invalid_pointer(call_site site, const char *argument) {
-  log_invalid_pointer(site, argument);
-  return -EINVAL;
 }
 
 } // namespace
@@ -406,7 +371,7 @@ bool ravix_create_channel_info(uint32_t primary_freq, uint16_t channel_width, bo
   if (out == nullptr) {
     return false;
   }
-  *out = not_made;
+  *out = no_channel;
   if (!ravix_frequency_is_primary(primary_freq)) {
     return false;
   }
@@ -417,22 +382,6 @@ bool ravix_create_channel_info(uint32_t primary_freq, uint16_t channel_width, bo
   }
   *out = made;
   return true;
-}
-
-int ravix_create_channel_info_auto(uint32_t primary_freq, uint16_t channel_width, bool ext_high, uint16_t puncture_map,
-                                   ravix_channel_info_t *out) {
-  if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) [[likely]] {
-    return 0;
-  }
-  if (has_pairs(primary_freq, channel_width)) {
-    ext_high = !ext_high;
-    if (ravix_create_channel_info(primary_freq, channel_width, ext_high, puncture_map, out)) [[likely]] {
-      return 1;
-    }
-  }
-  log_error(here, {"Failed to create channel_info with params: freq '", ravix_str_wifi_freq(primary_freq), "' and cw '",
-                   ravix_str_channel_width(channel_width), "', ext_high: ", ext_high ? "1" : "0", "."});
-  return RAVIX_FAIL_GENERAL;
 }
 
 bool ravix_channel_info_is_valid(const ravix_channel_info_t *channel_info) {
@@ -490,95 +439,4 @@ bool ravix_puncture_map_is_valid(uint16_t puncture_map, const ravix_channel_info
   }
   const auto primary = static_cast<uint8_t>((channel_info->primary_freq - freq_block_begin) / width_20_khz);
   return primary > 15 || (puncture_map >> primary & 1) == 0;
-}
-
-int ravix_channel_info_check_range(const ravix_channel_list_t *chan_list, const ravix_channel_info_t *channel_info,
-                                   ravix_channel_visitor_t chan_check_fct, void *context) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
-  }
-  if (chan_check_fct == nullptr) {
-    return invalid_pointer(here, "chan_check_fct");
-  }
-  if (!ravix_channel_info_is_valid(channel_info)) {
-    log_error(here, "channel_info is not valid!");
-    return -EINVAL;
-  }
-  const uint32_t reach = ravix_channel_width_to_frequency(channel_info->channel_width) / 2;
-  const uint32_t first = channel_info->center_freq - reach;
-  const uint32_t last = channel_info->center_freq + reach;
-  for (const ravix_channel_entry_t &entry : entries(*chan_list)) {
-    if (ravix_channel_capabilities_match_width(entry.capabilities, channel_info->channel_width) &&
-        entry.frequency >= first && entry.frequency <= last) {
-      chan_check_fct(&entry, context, entry.frequency);
-    }
-  }
-  return 0;
-}
-
-int ravix_channel_is_clear(const ravix_channel_list_t *chan_list, const ravix_channel_info_t *channel_info,
-                           uint32_t state_mask, bool *clear) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
-  }
-  if (clear == nullptr) {
-    return invalid_pointer(here, "chan_check_fct"); // named after the visitor, which every log reader knows it by
-  }
-  clearance found = {state_mask, true};
-  const bool walked = ravix_channel_info_check_range(chan_list, channel_info, note_clearance, &found) >= 0;
-  *clear = walked && found.clear;
-  return walked ? 0 : RAVIX_FAIL_GENERAL;
-}
-
-int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint32_t primary_freq, uint32_t state_mask,
-                                     bool ext_high, uint16_t max_width, ravix_channel_info_t *channel_info) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
-  }
-  *channel_info = {};
-  const auto list = entries(*chan_list);
-  const auto entry = std::ranges::find(list, primary_freq, &ravix_channel_entry_t::frequency);
-  uint16_t width = entry != list.end() ? ravix_channel_capabilities_to_channel_width(entry->capabilities) : uint16_t{0};
-  if (width == RAVIX_CHANNEL_WIDTH_INVALID) {
-    log_error(here, {"No channel width applicable to primary freq '", ravix_str_wifi_freq(primary_freq), "'."});
-    return -EINVAL;
-  }
-  if (max_width != 0 && max_width < width) {
-    width = max_width;
-  }
-  for (; width != RAVIX_CHANNEL_WIDTH_INVALID; width = ravix_channel_width_lower(width)) {
-    const bool two_sided = has_pairs(primary_freq, width) || has_overlapping_blocks(primary_freq, width);
-    bool side = ext_high;
-    for (int tries = two_sided ? 2 : 1; tries > 0; --tries, side = !side) {
-      const int made = ravix_create_channel_info_auto(primary_freq, width, side, 0, channel_info);
-      if (made < 0) {
-        log_error(here, "Failed to create max clear channel info.");
-        *channel_info = {};
-        return -EINVAL;
-      }
-      bool clear = false;
-      if (ravix_channel_is_clear(chan_list, channel_info, state_mask, &clear) != 0) {
-        log_error(here, "Clearance detection failed.");
-        *channel_info = {};
-        return RAVIX_FAIL_GENERAL;
-      }
-      if (clear) {
-        return 0;
-      }
-      if (made == 1) { // that was the other side already
-        break;
-      }
-    }
-  }
-  *channel_info = {};
-  return -ENOENT;
 }

@@ -1,6 +1,7 @@
 #include "ravix_types_validation.h"
 
 #include "ravix_types_log.hpp"
+#include "ravix_types_radio.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
 
@@ -15,6 +16,8 @@
 using zel::ravix::call_site;
 using zel::ravix::log_error;
 using zel::ravix::log_invalid_pointer;
+using zel::ravix::radio::channel_14;
+using zel::ravix::radio::width_20_khz;
 
 namespace {
 
@@ -85,8 +88,6 @@ static_assert(std::ranges::all_of(state_rules, [](const state_rule &a) {
 
 constexpr uint32_t dfs_capabilities = RAVIX_CHANNEL_CAP_DFS | RAVIX_CHANNEL_CAP_DFS_WEATHER;
 constexpr int16_t highest_power = 40; // dBm
-constexpr uint32_t channel_14 = 2484000;
-constexpr uint32_t entry_width_khz = 20000;
 
 // 2.4 GHz lists have an entry every 5 MHz: a 20 MHz channel covers 5 of them, one of 40 MHz covers 9. Up to two are
 // missing where the channel runs over the end of the list.
@@ -146,7 +147,7 @@ public:
 private:
   [[gnu::cold]] void violated(rule broken, std::initializer_list<std::string_view> parts, int line = __builtin_LINE()) {
     violations_ |= 1U << broken;
-    log_error({site_.file, site_.function, line}, parts);
+    log_error({site_.path, site_.function, line}, parts);
   }
 
   void check_frequency(std::size_t index) {
@@ -308,7 +309,7 @@ private:
   void check_channel() {
     const uint32_t extent = highest_ - lowest_;
     const uint16_t width =
-        ravix_frequency_to_channel_width(band_ == RAVIX_RADIO_BAND_2GHZ ? extent : extent + entry_width_khz);
+        ravix_frequency_to_channel_width(band_ == RAVIX_RADIO_BAND_2GHZ ? extent : extent + width_20_khz);
     if (width == RAVIX_CHANNEL_WIDTH_INVALID) {
       violated(invalid_active, {"Cannot determine channel width from lowest ", decimal(lowest_), " kHz and highest ",
                                 decimal(highest_), " kHz!"});

@@ -16,8 +16,9 @@
 
 namespace harness {
 
-using zel::ravix::has_record;
-using zel::ravix::record;
+using zel::ravix::has_fields;
+using zel::ravix::operations;
+using zel::ravix::record_of;
 
 // ---- records at random
 
@@ -46,7 +47,7 @@ template <class R> const record_type &row_of();
 // ---- values
 
 template <class T> void fill_value(T &value, randomness &random) {
-  if constexpr (has_record<T>) {
+  if constexpr (has_fields<T>) {
     row_of<T>().fill(&value, random);
   } else if constexpr (std::is_same_v<T, char *>) {
     char text[41] = "";
@@ -57,9 +58,9 @@ template <class T> void fill_value(T &value, randomness &random) {
     std::memcpy(&value, &flag, sizeof value);
   } else if constexpr (std::is_same_v<T, float>) {
     value = static_cast<float>(random.up_to(10000)) / 8;
-  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+  } else if constexpr (std::is_pointer_v<T> && has_fields<std::remove_pointer_t<T>>) {
     if (!random.absent()) {
-      value = record<std::remove_pointer_t<T>>::create();
+      value = operations<std::remove_pointer_t<T>>::create();
       fill_value(*value, random);
     }
   } else if constexpr (std::is_integral_v<T>) {
@@ -85,12 +86,12 @@ template <class All, class Compare> int first_order(const All &all, Compare comp
 template <class E> int compare_arrays(const E *a, std::size_t count_a, const E *b, std::size_t count_b, bool strictly);
 
 template <class T> int compare_values(const T &a, const T &b, bool strictly) {
-  if constexpr (has_record<T>) {
+  if constexpr (has_fields<T>) {
     return row_of<T>().order(&a, &b, strictly);
   } else if constexpr (std::is_same_v<T, char *>) {
     const std::size_t length = a != nullptr && b != nullptr ? std::min(std::strlen(a), std::strlen(b)) + 1 : 0;
     return compare_arrays(a, length, b, length, strictly);
-  } else if constexpr (std::is_pointer_v<T> && has_record<std::remove_pointer_t<T>>) {
+  } else if constexpr (std::is_pointer_v<T> && has_fields<std::remove_pointer_t<T>>) {
     return compare_arrays(a, 1, b, 1, strictly);
   } else if constexpr (std::is_scalar_v<T> && !std::is_same_v<T, bool>) { // a flag may be any octet
     return (a > b) - (a < b);
@@ -108,7 +109,7 @@ template <class E> int compare_arrays(const E *a, std::size_t count_a, const E *
     return (a != nullptr) - (b != nullptr);
   }
   int order = a == b && strictly ? 1 : 0;
-  if (zel::ravix::element<E>::is_plain && order == 0) {
+  if (zel::ravix::element<E>::is_bytes && order == 0) {
     return std::memcmp(a, b, count_a * sizeof(E));
   }
   for (std::size_t i = 0; i < count_a && order == 0; ++i) {
@@ -123,7 +124,7 @@ template <class T> const value_type &value_of() {
     made.size = sizeof(T);
     made.alignment = std::is_arithmetic_v<T> ? sizeof(T) : alignof(T);
     made.is_pointer = std::is_pointer_v<T>;
-    if constexpr (has_record<T>) {
+    if constexpr (has_fields<T>) {
       made.record = &row_of<T>();
     }
     made.fill = [](void *v, randomness &random) { fill_value(*static_cast<T *>(v), random); };
@@ -145,53 +146,61 @@ template <class T> const value_type &value_of() {
 // ---- kinds of field that are filled or compared otherwise than member by member
 
 // The first `begin` characters are the mark of a secret.
-template <class R, std::size_t N>
-void fill_as(const zel::ravix::bounded_text<R, N> &field, R &r, randomness &random, std::size_t begin = 0) {
-  std::memset(r.*field.member, random.kind == variety::hostile ? 'x' : 0, N);
-  std::memcpy(r.*field.member, secret_mark.data(), begin);
-  random.word(&(r.*field.member)[begin], N - 1 - begin);
+template <auto Member>
+void fill_as(const zel::ravix::bounded_text<Member> & /*field*/, record_of<Member> &r, randomness &random,
+             std::size_t begin = 0) {
+  constexpr std::size_t N = sizeof(r.*Member);
+  std::memset(r.*Member, random.kind == variety::hostile ? 'x' : 0, N);
+  std::memcpy(r.*Member, secret_mark.data(), begin);
+  random.word(&(r.*Member)[begin], N - 1 - begin);
 }
-template <class R, std::size_t N>
-void fill_as(const zel::ravix::counted_bytes<R, N> &field, R &r, randomness &random, std::size_t begin = 0) {
+template <auto Length, auto Octets>
+void fill_as(const zel::ravix::counted_octets<Length, Octets> & /*field*/, record_of<Length> &r, randomness &random,
+             std::size_t begin = 0) {
+  constexpr std::size_t N = sizeof(r.*Octets);
   const std::uint32_t length = random.up_to(N - 1);
-  std::memset(r.*field.octets, 0, N);
-  random.bytes(r.*field.octets, length);
-  std::memcpy(r.*field.octets, secret_mark.data(), begin);
-  r.*field.length =
+  std::memset(r.*Octets, 0, N);
+  random.bytes(r.*Octets, length);
+  std::memcpy(r.*Octets, secret_mark.data(), begin);
+  r.*Length =
       static_cast<std::uint8_t>(std::max<std::size_t>(length, begin) + (random.kind == variety::hostile ? N : 0));
 }
 template <class Kind, class R> void fill_as(const zel::ravix::secret<Kind> &field, R &r, randomness &random) {
   fill_as(static_cast<const Kind &>(field), r, random, secret_mark.size());
 }
 
-template <class R> void fill_as(const zel::ravix::owned_bytes<R> &field, R &r, randomness &random) {
-  r.*field.length = static_cast<std::uint8_t>(random.some(255));
-  if (r.*field.length != 0 && random.kind != variety::hostile) {
-    r.*field.octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*field.length, "tests", __LINE__));
-    random.bytes(r.*field.octets, r.*field.length);
+template <auto Length, auto Octets>
+void fill_as(const zel::ravix::owned_octets<Length, Octets> & /*field*/, record_of<Length> &r, randomness &random) {
+  r.*Length = static_cast<std::uint8_t>(random.some(255));
+  if (r.*Length != 0 && random.kind != variety::hostile) {
+    r.*Octets = static_cast<std::uint8_t *>(slab_dcalloc(1, r.*Length, "tests", __LINE__));
+    random.bytes(r.*Octets, r.*Length);
   }
 }
-template <class R> int compare_as(const zel::ravix::owned_bytes<R> &field, const R &a, const R &b, bool strictly) {
-  return compare_arrays(a.*field.octets, a.*field.length, b.*field.octets, b.*field.length, strictly);
+template <auto Length, auto Octets>
+int compare_as(const zel::ravix::owned_octets<Length, Octets> & /*field*/, const record_of<Length> &a,
+               const record_of<Length> &b, bool strictly) {
+  return compare_arrays(a.*Octets, a.*Length, b.*Octets, b.*Length, strictly);
 }
 
-template <class T, class E, class Text>
-void fill_as(const zel::ravix::entries<T, E, Text> & /*field*/, T &table, randomness &random) {
+template <class T, class Meaning>
+void fill_as(const zel::ravix::entries<T, Meaning> & /*field*/, T &table, randomness &random) {
   if (random.kind == variety::hostile && random.absent()) {
     table.count = random.up_to(UINT32_MAX);
   } else {
     row_of<T>().fill_table(&table, random.some(3), random);
   }
 }
-template <class T, class E, class Text>
-int compare_as(const zel::ravix::entries<T, E, Text> & /*field*/, const T &a, const T &b, bool strictly) {
+template <class T, class Meaning>
+int compare_as(const zel::ravix::entries<T, Meaning> & /*field*/, const T &a, const T &b, bool strictly) {
   return compare_arrays(a.data, a.count, b.data, b.count, strictly);
 }
 
-template <class R, class T> void fill_as(const zel::ravix::role_config<R, T> &field, R &r, randomness &random) {
+template <auto Member>
+void fill_as(const zel::ravix::role_config<Member> & /*field*/, record_of<Member> &r, randomness &random) {
   do {
-    fill_value(r.*field.member, random);
-  } while (r.*field.member == nullptr && random.kind != variety::hostile); // a role without it is refused
+    fill_value(r.*Member, random);
+  } while (r.*Member == nullptr && random.kind != variety::hostile); // a role without it is refused
 }
 
 template <class Kind, class R> field_type field_of(const Kind &field, const R &empty);
@@ -202,23 +211,22 @@ void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
 void choose(ravix_cfg_role_static_t &role, randomness &random) {
   role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
 }
-template <class Tag, class Wide, class Other, class R>
-field_type chosen_of(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &r) {
-  return Tag::of(r) == zel::ravix::alternative::other ? field_of(field.other, r) : field_of(field.wide, r);
+template <class Tag, class First, class Second, class R>
+field_type chosen_of(const zel::ravix::tagged<Tag, First, Second> &field, const R &r) {
+  return Tag::is_second(r) ? field_of(field.second, r) : field_of(field.first, r);
 }
-template <class Tag, class Wide, class Other, class R>
-void fill_as(const zel::ravix::tagged<Tag, Wide, Other> &field, R &r, randomness &random) {
-  using zel::ravix::alternative;
-  while (Tag::of(r) == alternative::none && random.kind != variety::hostile) {
+template <class Tag, class First, class Second, class R>
+void fill_as(const zel::ravix::tagged<Tag, First, Second> &field, R &r, randomness &random) {
+  while (field.which(r) == 0 && random.kind != variety::hostile) {
     choose(r, random);
   }
-  if (Tag::of(r) != alternative::none) {
+  if (field.which(r) != 0) {
     chosen_of(field, r).fill(&r, random);
   }
 }
-template <class Tag, class Wide, class Other, class R>
-int compare_as(const zel::ravix::tagged<Tag, Wide, Other> &field, const R &a, const R &b, bool strictly) {
-  const int order = static_cast<int>(Tag::of(a)) - static_cast<int>(Tag::of(b));
+template <class Tag, class First, class Second, class R>
+int compare_as(const zel::ravix::tagged<Tag, First, Second> &field, const R &a, const R &b, bool strictly) {
+  const int order = field.which(a) - field.which(b);
   return order != 0 ? order : chosen_of(field, a).compare(&a, &b, strictly);
 }
 
@@ -276,7 +284,7 @@ template <class Result, class... A, Result (*Operation)(A...)> struct erased<Ope
 };
 
 template <class R> record_type make_row() {
-  using operations = record<R>;
+  using operations = zel::ravix::operations<R>;
   constexpr bool is_table = requires {
     operations::init;
   };
@@ -357,9 +365,11 @@ const std::map<std::string, declaration> &declared_operations() {
 } // namespace
 
 const std::vector<const record_type *> &record_types() {
-  static const auto rows = []<class... R>(zel::ravix::type_list<R...> /*records*/) {
-    return std::vector<const record_type *>{&row_of<R>()...};
-  }(zel::ravix::all_records{});
+  static const auto rows = [] {
+    std::vector<const record_type *> all;
+    zel::ravix::for_each_record([&]<class R>(const char * /*name*/) { all.push_back(&row_of<R>()); });
+    return all;
+  }();
   return rows;
 }
 

@@ -203,13 +203,10 @@ template <class R> struct sample : any_sample {
 
 // Runs a check for every record type.
 template <class Check> void for_all_records(Check check) {
-  const auto run = [&]<class R>(const R * /*type*/) {
-    SCOPED_TRACE(name_of<R>());
+  zel::ravix::for_each_record([&]<class R>(const char *name) {
+    SCOPED_TRACE(name);
     check.template operator()<R>();
-  };
-  [&]<class... R>(zel::ravix::type_list<R...> /*records*/) {
-    (run(static_cast<const R *>(nullptr)), ...);
-  }(zel::ravix::all_records{});
+  });
 }
 
 } // namespace harness

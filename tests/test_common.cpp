@@ -17,25 +17,29 @@
 
 namespace {
 
-using zel::ravix::record;
+using zel::ravix::operations;
+
 int sign(int order) {
   return (order > 0) - (order < 0);
 }
 
-template <class R, std::size_t N> void expect_ended(const zel::ravix::bounded_text<R, N> &field) {
+template <auto Member> void expect_ended(const zel::ravix::bounded_text<Member> & /*field*/) {
+  using R = zel::ravix::record_of<Member>;
+  constexpr std::size_t N = sizeof(R{}.*Member);
   for (const std::size_t length : {std::size_t{0}, N - 2, N - 1, N}) {
     harness::sample<R> src(1);
     harness::sample<R> dest(2);
-    char(&text)[N] = src.value.*field.member;
+    char(&text)[N] = src.value.*Member;
     std::memset(text, 0, N);
     text[N - 1] = 'x'; // behind the terminator of shorter ones
     std::memset(text, 'x', length);
-    std::memset(dest.value.*field.member, '#', N);
-    EXPECT_EQ(record<R>::copy(&src.value, &dest.value), 0);
+    std::memset(dest.value.*Member, '#', N);
+    EXPECT_EQ(operations<R>::copy(&src.value, &dest.value), 0);
     const std::size_t kept = std::min(length, N - 1);
-    EXPECT_EQ(std::string(dest.value.*field.member, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
-    if constexpr (requires { record<R>::compare; }) {
-      EXPECT_EQ(sign(record<R>::compare(&src.value, &dest.value)), length >= N - 1 ? 1 : 0) << "the last one counts";
+    EXPECT_EQ(std::string(dest.value.*Member, N), std::string(kept, 'x') + std::string(N - kept, '\0'));
+    if constexpr (requires { operations<R>::compare; }) {
+      EXPECT_EQ(sign(operations<R>::compare(&src.value, &dest.value)), length >= N - 1 ? 1 : 0)
+          << "the last one counts";
     }
   }
 }
@@ -151,9 +155,9 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
   const auto add_lengths = [&]<class T>(T source, std::uint8_t most) {
     harness::sample<T> dest;
     source.len = static_cast<std::uint8_t>(most + 1);
-    add("too long", record<T>::copy(&source, &dest.value));
+    add("too long", operations<T>::copy(&source, &dest.value));
     source.len = most;
-    add("as long as can be", record<T>::copy(&source, &dest.value));
+    add("as long as can be", operations<T>::copy(&source, &dest.value));
   };
   add_lengths(ravix_key_t{}, RAVIX_MAX_KEY_LEN);
   add_lengths(ravix_ssid_t{}, RAVIX_MAX_SSID_LEN);

@@ -13,9 +13,13 @@ S = "${WORKDIR}/git"
 
 inherit cmake pkgconfig
 
-PACKAGECONFIG ??= "bundled-platform"
-PACKAGECONFIG[bundled-platform] = "-DRAVIX_PLATFORM=bundled,-DRAVIX_PLATFORM=system,,,,"
+# "system-platform" links the device's own libzelcsock, from a recipe of that name, instead of the stand-in.
+PACKAGECONFIG ??= ""
+PACKAGECONFIG[system-platform] = "-DRAVIX_PLATFORM=system,-DRAVIX_PLATFORM=bundled,libzelcsock"
 EXTRA_OECMAKE = "-DRAVIX_OPTIMIZE=size -DRAVIX_BUILD_TESTS=OFF -DRAVIX_BUILD_EXAMPLES=OFF -DRAVIX_WERROR=OFF"
 
+# The package is named after this library's SONAME, libravix-types1, and programs depend on that name: those that were built
+# with another major version are not taken for fitting.
+LEAD_SONAME = "libravix_types.so"
 PACKAGES =+ "libzelcsock"
 FILES:libzelcsock = "${libdir}/libzelcsock.so.*"

@@ -9,8 +9,11 @@ function quoted(text) {
   return text
 }
 
-# From the name of a set, or from an enumeration: then its comment's first sentence.
+# Begins a table, with the name of a set or an enumeration as its heading: then its comment's first sentence. Headings of
+# whole enumerations are links' targets: RAVIX_WLAN_MODE is where `RAVIX_WLAN_MODE_...` leads. It is what the names of the
+# rows have in common, so the table is written when it has ended.
 function heading(text) {
+  finish()
   formatter = match(comment, /ravix_str_[a-z0-9_]+/) ? substr(comment, RSTART, RLENGTH) : ""
   if (text ~ /^ravix_/) {
     text = comment
@@ -18,15 +21,28 @@ function heading(text) {
     sub(/(\. |\.$| *\*\/).*/, "", text)
   }
   gsub(/ \* +/, " ", text)
-  print "  printf(\"\\n## " quoted(text) "\\n\\n| Value | Text | Constant | Meaning |\\n|---|---|---|---|\\n\");"
+  title_of_table = text
+}
+
+function finish() {
+  if (rows != "") {
+    sub(/_[^_]*$/, "", common)
+    print "  printf(\"\\n## " quoted(title_of_table) " {#" common "}\\n\\n| Value | Text | Constant | Meaning |\\n|---|---|---|---|\\n\");"
+    printf "%s", rows
+  }
+  rows = common = ""
 }
 
 function row(name, meaning,    number, value) {
   sub(/.*\/\*\*< */, "", meaning)
   sub(/ *\*\/.*/, "", meaning)
   number = flags ? "0x%llX" : "%lld"
+  if (common == "")
+    common = name
+  while (index(name, common) != 1)
+    common = substr(common, 1, length(common) - 1)
   value = formatter == "" ? "\"-\"" : formatter "(" name ")"
-  print "  printf(\"| " number " | `%s` | @ref " name " | " quoted(meaning) " |\\n\", (long long)" name ", " value ");"
+  rows = rows "  printf(\"| " number " | `%s` | @ref " name " | " quoted(meaning) " |\\n\", (long long)" name ", " value ");\n"
 }
 
 BEGIN {
@@ -61,4 +77,7 @@ pending != "" && /\*\// {
   row(pending, text)
   pending = ""
 }
-END { print "  return 0;\n}" }
+END {
+  finish()
+  print "  return 0;\n}"
+}

@@ -4,6 +4,10 @@
 # Lines keep their numbers, so that warnings point into the headers.
 
 BEGIN {
+  # The tables that there are to link to.
+  while ((getline line < "build-docs/pages/enumerations.md") > 0)
+    if (match(line, /\{#RAVIX_[A-Z0-9_]+\}/))
+      tables[substr(line, RSTART + 2, RLENGTH - 3)]
   more = " @see @ref lifecycle"
   note["_create"] = "Creates a record in its empty state. @return The record, to be released with its free function; null when memory is exhausted."
   note["_create_table"] = "Creates a table of empty elements, which count. @param COUNT Number of elements. @return The table, to be released with its free function; null when memory is exhausted."
@@ -38,7 +42,7 @@ function documentation(prototype,    name, operation, parameter, parameters, cou
   }
   if (operation == "_create" && parameters[1] != "void")
     operation = "_create_table"
-  text = note[operation] more
+  text = explained(note[operation]) more
   gsub(/OBJECT/, parameters[1], text)
   gsub(/COUNT/, parameters[count], text)
   return text
@@ -57,6 +61,27 @@ function addition(prototype, comment,    parameter) {
   if (prototype ~ /_from_str\(/)
     return "@param str_param The text. @param[out] output Receives the value. @return True if it has been set. @see @ref parsers"
   return ""
+}
+
+# The errno's name of a result, and links from `RAVIX_WLAN_MODE_...` and its like to the table of the values.
+function explained(text,    before, number, name) {
+  before = ""
+  while (match(text, /(^|[ (])-(2|12|22)[,;:.) ]/)) {
+    number = substr(text, RSTART, RLENGTH - 1)
+    sub(/^[ (]/, "", number)
+    name = number == "-2" ? "ENOENT" : number == "-12" ? "ENOMEM" : "EINVAL"
+    name = substr(text, RSTART, 1) == "(" ? ", " name : " (" name ")"
+    before = before substr(text, 1, RSTART + RLENGTH - 2)
+    text = substr(text, RSTART + RLENGTH - 1)
+    before = before (text ~ /^ \(-E/ ? "" : name)
+  }
+  text = before text
+  while (match(text, /`RAVIX_[A-Z0-9_]+_\.\.\.`/)) {
+    name = substr(text, RSTART + 1, RLENGTH - 6)
+    before = name in tables ? "[" name "_...](@ref " name ")" : "<code>" name "_...</code>"
+    text = substr(text, 1, RSTART - 1) before substr(text, RSTART + RLENGTH)
+  }
+  return text
 }
 
 {
@@ -82,6 +107,10 @@ END {
       comment = ""
       continue
     }
+    if (match(lines[i], /\/\*\*.*/))
+      lines[i] = substr(lines[i], 1, RSTART - 1) explained(substr(lines[i], RSTART))
+    else if (lines[i] ~ /^ *\*/)
+      lines[i] = explained(lines[i])
     # A constant becomes a link.
     gsub(/empty: RAVIX_/, "empty: #RAVIX_", lines[i])
     # Names of parameters say all that is known of them here.

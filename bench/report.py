@@ -74,24 +74,43 @@ def table(times, wanted):
         )
         last = work or last
         if margin is not None:
-            judged.append((f"{last} / {against}" if against != "-" else last, margin))
-    met = sum(margin >= 1 for _, margin in judged)
+            judged.append((f"{last} / {against.replace('_', ' ')}", theirs and theirs / ours, margin))
+    met = sum(margin >= 1 for _, _, margin in judged)
     print(f"{met} of {len(judged)} targets met")
     return judged
 
 
-def draw_margins(axes, judged):
-    judged = judged[::-1]
-    axes.barh(range(len(judged)), [margin for _, margin in judged], color=[MET if m >= 1 else MISSED for _, m in judged])
-    axes.axvline(1, color=TARGET, linewidth=1)
-    axes.set_yticks(range(len(judged)), [label for label, _ in judged])
+def draw_speeds(axes, judged):
+    """A bar from 1, as fast as the peer, to how many times as fast ours is; a mark where it has to reach."""
+    judged = [each for each in reversed(judged) if each[1]]
+    speeds = [speed for _, speed, _ in judged]
+    rows = range(len(judged))
+    axes.barh(rows, [speed - 1 for speed in speeds], left=1, height=0.7,
+              color=[MET if margin >= 1 else MISSED for _, _, margin in judged])
+    wanted = [speed / margin for _, speed, margin in judged]
+    axes.plot(wanted, rows, linestyle="none", marker="|", markersize=9, markeredgewidth=2, color=TARGET)
+    for row, speed, target in zip(rows, speeds, wanted):
+        axes.annotate(f"{speed:.3g}", (max(speed, target, 1), row), xytext=(5, -3), textcoords="offset points", fontsize=8)
+    axes.axvline(1, color=TARGET, linewidth=0.8)
+    axes.set_yticks(rows, [label for label, _, _ in judged])
     axes.set_ylim(-0.7, len(judged) - 0.3)
     axes.set_xscale("log")
-    ticks = [0.25, 0.5, 1, 2, 5, 10, 20, 50]
+    ticks = [0.5, 1, 2, 5, 10, 20, 50, 100]
     axes.set_xticks(ticks, [f"{tick:g}" for tick in ticks])
     axes.xaxis.set_minor_locator(matplotlib.ticker.NullLocator())
-    axes.set_xlabel("times as good as the target (line: target just met)")
+    axes.set_xlim(0.3, 2.2 * max(speeds))
+    axes.set_xlabel("times as fast as the peer")
     axes.set_title("Work / peer", loc="left")
+    axes.legend(
+        handles=[
+            matplotlib.patches.Patch(color=MET, label="target reached"),
+            matplotlib.patches.Patch(color=MISSED, label="not reached"),
+            matplotlib.lines.Line2D([], [], linestyle="none", marker="|", markersize=9, markeredgewidth=2, color=TARGET,
+                                    label="target"),
+        ],
+        loc="lower right",
+        frameon=False,
+    )
 
 
 def draw_growth(axes, times):
@@ -122,7 +141,7 @@ def main(results, wanted, picture):
     load = " ".join(f"{each:.1f}" for each in context["load_avg"])
     print(f"{context['date'][:10]}, {context['num_cpus']} processors of {context['mhz_per_cpu']} MHz, load {load}")
     figure, (left, right) = plt.subplots(1, 2, figsize=(10.5, 7.5), width_ratios=(1, 1.05), layout="constrained")
-    draw_margins(left, judged)
+    draw_speeds(left, judged)
     draw_growth(right, times)
     for axes in (left, right):
         axes.spines[["top", "right"]].set_visible(False)

@@ -5,30 +5,102 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <numeric>
+#include <sstream>
+#include <utility>
+#include <vector>
 
 namespace harness {
 
 namespace {
 
-std::string path_of(const std::string &name) {
-  return RAVIX_TEST_DATA "/" + name + ".golden";
+struct expected_file {
+  std::filesystem::path path;
+  bool is_recorded;
+
+  explicit expected_file(const std::string &name) {
+    const std::filesystem::path stem = std::filesystem::path(RAVIX_TEST_DATA) / name;
+    is_recorded = !std::filesystem::exists(stem.string() + ".txt");
+    path = stem.string() + (is_recorded ? ".golden" : ".txt");
+  }
+  std::string text() const {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+};
+
+bool is_set(const char *variable, const char *value = nullptr) {
+  const char *found = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): nothing changes it
+  return found != nullptr && (value == nullptr ? *found != '\0' : std::string_view(found) == value);
 }
+
+std::vector<std::string> lines_of(const std::string &text) {
+  std::istringstream in(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+// How many lines of a text stand in another one too, in the same order.
+std::size_t kept(const std::vector<std::string> &old_lines, const std::vector<std::string> &new_lines) {
+  std::vector<std::size_t> most(new_lines.size() + 1);
+  for (const std::string &old_line : old_lines) {
+    std::size_t before = 0;
+    for (std::size_t i = 0; i < new_lines.size(); ++i) {
+      const std::size_t with_this = old_line == new_lines[i] ? before + 1 : 0;
+      before = most[i + 1];
+      most[i + 1] = std::max({most[i + 1], most[i], with_this});
+    }
+  }
+  return most.back();
+}
+
+// Rewrites recorded files when a test has ended, since only then it is known that nothing else is wrong with it.
+class rewriter : public testing::EmptyTestEventListener {
+public:
+  rewriter() { testing::UnitTest::GetInstance()->listeners().Append(this); }
+
+  std::map<std::filesystem::path, std::string> texts;
+
+private:
+  void OnTestEnd(const testing::TestInfo &test) override {
+    const bool has_failed = test.result()->Failed();
+    for (const auto &[path, text] : std::exchange(texts, {})) {
+      if (has_failed) {
+        ADD_FAILURE() << "did not rewrite " << path << ": the test fails in something else too";
+        continue;
+      }
+      const auto before = lines_of(expected_file(std::filesystem::path(path).replace_extension()).text());
+      const auto after = lines_of(text);
+      const std::size_t same = kept(before, after);
+      EXPECT_TRUE((std::ofstream(path, std::ios::binary) << text).flush()) << path << " cannot be written";
+      ADD_FAILURE() << "rewrote " << path << ": " << after.size() - same << " lines added, " << before.size() - same
+                    << " removed; the next run accepts them, so read them first";
+    }
+  }
+};
+rewriter &rewrites = *new rewriter; // owned by the test framework
 
 } // namespace
 
 void expect_golden(const std::string &name, std::string_view text) {
-  const std::string path = path_of(name);
-  const char *update = std::getenv("RAVIX_UPDATE_GOLDEN"); // NOLINT(concurrency-mt-unsafe): nothing changes it
-  if (update != nullptr && std::string_view(update) == "1") {
-    EXPECT_TRUE((std::ofstream(path, std::ios::binary) << text).flush()) << path << " cannot be written";
+  const expected_file file(name);
+  const std::string expected = file.text();
+  const bool is_update = file.is_recorded && is_set("RAVIX_UPDATE_GOLDEN", "1");
+  if (is_update && is_set("CI")) {
+    ADD_FAILURE() << "RAVIX_UPDATE_GOLDEN is refused where CI is set: there is nobody who reads what changes";
+  }
+  if (expected == text) {
     return;
   }
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file) << path << " cannot be read";
-  const std::string expected{std::istreambuf_iterator<char>(file), {}};
-  if (expected == text) {
+  if (is_update && !is_set("CI")) {
+    rewrites.texts[file.path] = text;
     return;
   }
   const auto same = std::ranges::mismatch(expected, text).in1 - expected.begin();
@@ -38,8 +110,9 @@ void expect_golden(const std::string &name, std::string_view text) {
     const auto length = std::min(whole.find('\n'), whole.size() - 1) + 1; // with its end, which may be what differs
     return testing::PrintToString(std::string(whole.substr(0, length)));
   };
-  ADD_FAILURE() << path << ":" << std::count(expected.begin(), expected.begin() + same, '\n') + 1 << ": expected "
-                << line(expected) << "\n  but got " << line(text) << "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)";
+  ADD_FAILURE() << file.path.string() << ":" << std::count(expected.begin(), expected.begin() + same, '\n') + 1
+                << ": expected " << line(expected) << "\n  but got " << line(text)
+                << (file.is_recorded ? "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)" : "\n(written by hand)");
 }
 
 std::string logged(captured_log &log) {
@@ -52,9 +125,8 @@ std::string logged(captured_log &log) {
 
 void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer) {
   captured_log log;
-  std::ifstream file(path_of(name));
   std::string answered;
-  for (std::string line; std::getline(file, line);) {
+  for (const std::string &line : lines_of(expected_file(name).text())) {
     if (line.starts_with("    ")) {
       continue; // logged anew
     }
@@ -67,7 +139,7 @@ void expect_answers(const std::string &name, const std::function<std::string(con
 }
 
 void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome) {
-  std::ifstream file(path_of(name));
+  std::istringstream file(expected_file(name).text());
   std::string all;
   for (std::string title; std::getline(file, title);) {
     if (!title.starts_with("===")) {

@@ -1,4 +1,9 @@
-// Expected texts as files, tests/data/<name>.golden: long texts are data, to be read as they are printed.
+// Expected texts as files in tests/data: long texts are data, to be read as they are printed.
+//
+// <name>.txt is written by hand, from what the interface says, and no run changes it. <name>.golden is recorded: what a
+// program printed, read by a person before it was committed. With RAVIX_UPDATE_GOLDEN=1 a test that fails in nothing
+// else rewrites the recorded files that differ, says how many lines that are, and fails all the same. Where CI is set
+// that is refused.
 #pragma once
 
 #include "harness.hpp"
@@ -9,17 +14,16 @@
 
 namespace harness {
 
-// Compares a text with the golden file of that name; a difference is shown by its first line. When the environment has
-// RAVIX_UPDATE_GOLDEN=1, the file is rewritten instead: read what git then shows as changed.
+// Compares a text with the file of that name; a difference is shown by its first line.
 void expect_golden(const std::string &name, std::string_view text);
 
 // What has been logged since the log was last read: below each other, in a line of its own each, indented by four
 // blanks.
 std::string logged(captured_log &log);
 
-// A golden file of calls, each with its answer: "<call> = <answer>", and below it, indented by four blanks, what was
+// A file of calls, each with its answer: "<call> = <answer>", and below it, indented by four blanks, what was
 // logged meanwhile. Lines that begin with '#' are comments. Makes every call that stands in the file, so that a new
-// case is a new line: the call alone, which RAVIX_UPDATE_GOLDEN=1 completes.
+// case is a new line.
 void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer);
 
 // The same for inputs of several lines: "=== <title>", the input, "---", and what comes of it.

@@ -1,5 +1,5 @@
-// Texts of values, names and flags as they stand in tests/data/texts.golden and names.golden, with clocks and a time
-// zone of their own and in a locale with a decimal comma; and the area that all texts share.
+// Texts of values, names and flags as they stand in tests/data/texts.txt and names.txt, with clocks and a time zone of
+// their own and in a locale with a decimal comma; and the area that all texts share.
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
 
@@ -18,6 +18,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <fstream>
 #include <functional>
 #include <iterator>
 #include <locale>
@@ -28,6 +29,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -176,27 +178,49 @@ TEST(Texts, AreAsRecorded) {
   EXPECT_EQ(0U, heap.requests());
 }
 
-// Every value and flag that has a name; the others are shown as numbers, or not at all.
-TEST(Names, AreAsRecorded) {
-  harness::golden_sections sections;
-  for (const formatters *group : {&names, &more_names, &flags}) {
-    for (const auto &[what, text_of] : *group) {
-      std::string lines;
-      for (int bit = 0; group == &flags && bit < 64; ++bit) {
-        const std::string text = text_of(std::uint64_t{1} << bit);
-        lines += text != "[ ]" ? "1 << " + std::to_string(bit) + " " + text + "\n" : "";
-      }
-      for (std::int64_t i = 0; group != &flags && i < 73000; ++i) {
-        const std::int64_t value = i < 70000 ? i - 300 : INT32_MIN + (i - 70000);
-        const std::string text = text_of(static_cast<std::uint64_t>(value));
-        const bool is_name = !text.starts_with("<invalid value: ") && text != std::to_string(value) &&
-                             text != std::strerror(static_cast<int>(-value));
-        lines += is_name ? std::to_string(value) + " " + text + "\n" : "";
-      }
-      sections.add(what, lines);
+// The values and names of tests/data/names.txt, and the text of what stands in none of its lists.
+TEST(Names, AreThoseOfTheInterfaceAndNoOthers) {
+  std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> lists;
+  std::ifstream file(RAVIX_TEST_DATA "/names.txt");
+  std::string what;
+  for (std::string line; std::getline(file, line);) {
+    if (!line.empty() && line[0] != '#' && line[0] != ' ') {
+      what = line.substr(0, line.find(':'));
+      line.erase(0, what.size() + 1);
+    }
+    std::istringstream entries(line[0] != '#' ? line : "");
+    for (std::string entry; std::getline(entries >> std::ws, entry, ',');) {
+      const std::size_t blank = entry.find(' ');
+      lists[what].emplace_back(std::stoll(entry.substr(0, blank), nullptr, 0), entry.substr(blank + 1));
     }
   }
-  sections.expect("names");
+  EXPECT_EQ(lists.size(), 1 + names.size() + more_names.size() + flags.size()); // and that of ravix_str_enabled
+  for (const formatters *group : {&names, &more_names}) {
+    for (const auto &[list, text_of] : *group) {
+      const std::map<std::int64_t, std::string> named(lists[list].begin(), lists[list].end());
+      for (std::int64_t i = 0; i < 73000; ++i) {
+        const std::int64_t value = i < 70000 ? i - 300 : INT32_MIN + (i - 70000);
+        const std::string number = std::to_string(list == "connect_status" ? value : value & UINT32_MAX);
+        const std::string text = named.contains(value) ? named.at(value)
+                                 : list == "id"        ? std::to_string(value)
+                                 : list == "status"    ? std::strerror(static_cast<int>(-value))
+                                                       : "<invalid value: " + number + ">";
+        ASSERT_EQ(text_of(static_cast<std::uint64_t>(value)), text) << list << ' ' << value;
+      }
+    }
+  }
+  for (const auto &[list, text_of] : flags) {
+    std::map<std::uint64_t, std::string> alone;
+    std::string all = "[ ";
+    for (const auto &[mask, name] : lists[list]) {
+      alone[static_cast<std::uint64_t>(mask)] = "[ " + name + " ]";
+      all += name + " ";
+    }
+    EXPECT_EQ(text_of(UINT64_MAX), all + "]");
+    for (std::uint64_t bit = 1; bit != 0; bit <<= 1) {
+      EXPECT_EQ(text_of(bit), alone.contains(bit) ? alone[bit] : "[ ]") << list << ' ' << bit;
+    }
+  }
 }
 
 // --- The area that the texts share ---

@@ -138,6 +138,11 @@ void expect_answers(const std::string &name, const std::function<std::string(con
   expect_golden(name, answered);
 }
 
+void golden_sections::expect(const std::string &name) const {
+  const std::string text = expected_file(name).text();
+  expect_golden(name, text.substr(0, text.starts_with('#') ? text.find("--- ") : 0) + collected_);
+}
+
 void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome) {
   std::istringstream file(expected_file(name).text());
   std::string all;

@@ -29,13 +29,14 @@ void expect_answers(const std::string &name, const std::function<std::string(con
 // The same for inputs of several lines: "=== <title>", the input, "---", and what comes of it.
 void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome);
 
-// Collects texts that share a golden file, each under a title: "--- <title>", the text, an empty line.
+// Collects texts that share a file, each under a title: "--- <title>", the text; with empty lines between them. The
+// file may begin with comments.
 class golden_sections {
 public:
   void add(std::string_view title, std::string_view text) {
-    collected_.append("--- ").append(title).append("\n").append(text).append("\n\n");
+    collected_.append(collected_.empty() ? "--- " : "\n--- ").append(title).append("\n").append(text).append("\n");
   }
-  void expect(const std::string &name) const { expect_golden(name, collected_); }
+  void expect(const std::string &name) const;
 
 private:
   std::string collected_;

@@ -123,20 +123,12 @@ template <class T> const value_type &value_of() {
     value_type made{};
     made.size = sizeof(T);
     made.alignment = std::is_arithmetic_v<T> ? sizeof(T) : alignof(T);
-    made.is_pointer = std::is_pointer_v<T>;
     if constexpr (has_fields<T>) {
       made.record = &row_of<T>();
     }
     made.fill = [](void *v, randomness &random) { fill_value(*static_cast<T *>(v), random); };
     made.compare = [](const void *a, const void *b, bool strictly) {
       return compare_values(*static_cast<const T *>(a), *static_cast<const T *>(b), strictly);
-    };
-    made.number = [](const void *v) -> std::string {
-      if constexpr (std::is_arithmetic_v<T>) {
-        const T number = *static_cast<const T *>(v);
-        return number != 0 ? std::to_string(number) : "";
-      }
-      return "";
     };
     return made;
   }();
@@ -376,6 +368,19 @@ const std::vector<const record_type *> &record_types() {
 const record_type &type_of(const std::type_info &info) {
   return **std::find_if(record_types().begin(), record_types().end(),
                         [&](const record_type *type) { return *type->info == info; });
+}
+
+bool field_type::has_same_octets(const void *a, const void *b) const {
+  return std::ranges::all_of(members, [&](const member &m) {
+    return std::memcmp(static_cast<const char *>(a) + m.offset, static_cast<const char *>(b) + m.offset,
+                       m.type->size) == 0;
+  });
+}
+
+void field_type::take(void *to, const void *from) const {
+  for (const member &m : members) {
+    std::memcpy(static_cast<char *>(to) + m.offset, static_cast<const char *>(from) + m.offset, m.type->size);
+  }
 }
 
 void record_type::fill(void *r, randomness &random) const {

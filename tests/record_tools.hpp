@@ -56,13 +56,11 @@ struct record_type;
 // A type of values, in members of records and elements of tables.
 struct value_type {
   std::size_t size, alignment;
-  bool is_pointer;
   const record_type *record; // of a record, else null
   // Makes a random value of one that is empty or owns nothing.
   void (*fill)(void *value, randomness &random);
   // Negative, 0 or positive. Strictly, values differ too if they share memory, or in what no comparison heeds.
   int (*compare)(const void *a, const void *b, bool strictly);
-  std::string (*number)(const void *value); // a number's text, "" for 0 and other values
 };
 
 // A field of records, at whose address the functions get them; as those of a value.
@@ -77,6 +75,10 @@ struct field_type {
   std::vector<member> members;
   std::function<void(void *r, randomness &random)> fill;
   std::function<int(const void *a, const void *b, bool strictly)> compare;
+
+  // By the octets of its members, whatever they refer to.
+  bool has_same_octets(const void *a, const void *b) const;
+  void take(void *to, const void *from) const;
 };
 
 struct record_type {

@@ -1,25 +1,33 @@
-// Texts of the stream operators and the difference printers, as golden files; what they do to the stream; and that no
+// The texts of the stream operators and the difference printers: of specimens, as a person has written them; what the
+// two layouts add to them, by a judge that knows nothing but texts; what printing does to the stream; and that no
 // output tells a secret.
 #include "ravix_types_printers.hpp"
 
 #include "golden.hpp"
 #include "record_tools.hpp"
-
-#include "ravix_types_print.hpp"
+#include "specimens.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <fstream>
 #include <iomanip>
 #include <ios>
+#include <iterator>
+#include <map>
+#include <memory>
+#include <numeric>
 #include <ostream>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -27,19 +35,20 @@ namespace {
 
 using harness::for_all_records;
 using harness::name_of;
-using harness::randomness;
 using harness::sample;
-using harness::variety;
-using zel::ravix::record_table;
-using zel::ravix::table_record;
 
 template <class R>
-concept printable = requires(std::ostream &stream, const R &value) {
+concept printable = std::is_class_v<R> && requires(std::ostream &stream, const R &value) {
   stream << value;
 };
 template <class R>
 concept diffable = requires(std::ostream &stream, const R &value) {
   print_diff(stream, value, &value, "", 0U, true);
+};
+template <class R>
+concept table = requires(const R &value) {
+  value.count;
+  value.data;
 };
 
 // A time stamp begins with the date that it stands for now.
@@ -57,174 +66,334 @@ template <class Print> std::string printed_by(Print print) {
 template <class R> std::string text(const R &value) {
   return printed_by([&](std::ostream &stream) { stream << value; });
 }
-
-// A filled record, but for what the machine or its C library has a say in.
-template <class R> struct specimen : sample<R> {
-  explicit specimen(randomness random) : sample<R>(random) {
-    R &r = this->value;
-    if constexpr (requires { r.status; }) {
-      r.status = static_cast<decltype(r.status)>(0x80000002);
-    }
-    if constexpr (requires { r.hal_context; }) {
-      r.hal_context = reinterpret_cast<void *>(std::uintptr_t{0x1A0}); // NOLINT(performance-no-int-to-ptr)
-    }
-    if constexpr (requires { r.recovery; }) { // is chosen behind a pointer
-      r.recovery = true;
-    }
-  }
-};
-
-// ---- texts
-
-// Filled with values that differ, and with the octet 255 over and over: numbers of all ones, texts without end, lengths
-// beyond what is there. Tables of columns align their numbers.
-TEST(Printers, RecordsEmptyAndFilled) {
-  harness::golden_sections sections;
-  const std::vector<std::uint8_t> ones(4096, 0xFF);
-  for_all_records([&]<class R>() {
-    if constexpr (printable<R>) {
-      sections.add(name_of<R>(), text(specimen<R>(randomness(1, variety::tame)).value));
-      sections.add(name_of<R>() + ", empty", text(sample<R>().value));
-      sections.add(name_of<R>() + " of ones", text(specimen<R>(randomness(ones, variety::hostile)).value));
-      if constexpr (table_record<R> && !record_table<R>) {
-        for (const unsigned count : {10U, 11U}) {
-          sample<R> table;
-          randomness random(1, variety::tame);
-          fill_table(table.value, count, random);
-          sections.add(name_of<R>() + " of " + std::to_string(count), text(table.value));
-        }
-      }
-    }
-  });
-  sections.add("odd numbers", text(ravix_radio_airtime_entry_t{0.5F, 12345.6875F, -0.0004F, 1e6F}));
-  const sample<ravix_scan_results_t> some(4, variety::tame);
-  sections.add("no network names", printed_by([&](std::ostream &stream) {
-                 print_scan_entry(stream, some.value.scan_table.data[0], true);
-                 print_scan_table(stream << "\n\n", {}, true);
-                 print_scan_results(stream << "\n\n", some.value, true);
-               }));
-  sections.expect("print_records");
-}
-
-// ---- differences
-
 template <class R>
-std::string diff(const R &value, const R *reference, const char *name = "value", unsigned indent = 1,
+std::string diff(const R &value, const R *reference, const char *name = nullptr, unsigned indent = 0,
                  bool newline = true) {
   return printed_by([&](std::ostream &stream) { print_diff(stream, value, reference, name, indent, newline); });
 }
-
-// Outputs by their titles, each with a '|' at its end.
-struct outputs : harness::golden_sections {
-  void add(const std::string &title, const std::string &text) { golden_sections::add(title, text + "|"); }
-};
-
-template <class R> constexpr const R *nothing = nullptr;
-
-// What each output must be in view of the others.
-template <class R> void expect_forms(const R &value) {
-  const std::string whole = diff(value, nothing<R>);
-  const std::string unended = diff(value, nothing<R>, "value", 1, false);
-  EXPECT_EQ(whole, unended.ends_with('\n') ? unended : unended + '\n');
-  const std::string nameless = diff(value, nothing<R>, nullptr, 2);
-  EXPECT_EQ(whole, zel::ravix::value_record<R> ? " value: " + nameless.substr(2) : " value:\n" + nameless);
-  EXPECT_EQ(diff(value, &value), "");
+template <class R> std::string whole(const R &value) {
+  return diff(value, static_cast<const R *>(nullptr));
 }
 
-TEST(Differences, OfRecordsEmptyFilledAndOfEachField) {
-  outputs golden;
-  for_all_records([&]<class R>() {
-    if constexpr (diffable<R> && !table_record<R>) {
-      const sample<R> reference(4, variety::tame);
-      expect_forms(reference.value);
-      golden.add(name_of<R>(), diff(reference.value, nothing<R>, "value", 1, false));
-      golden.add(name_of<R>() + ", empty", diff(sample<R>().value, nothing<R>, nullptr));
-      randomness random(1, variety::tame);
-      zel::ravix::for_each_field<R>([&](const auto &field) {
-        sample<R> other(4, variety::tame);
-        const std::string name = field.name;
-        if (name == "op_mode" || name == "type") {
-          return; // would be a record of another kind
-        }
-        while (zel::ravix::field_difference(field, other.value, reference.value) == 0) {
-          field.clear(other.value, "tests");
-          fill(field, other.value, random);
-        }
-        golden.add(name_of<R>() + ", other " + name, diff(other.value, &reference.value));
-      });
+// ---- specimens
+
+// Calls visit(name, record) for the specimens, and for the records that they consist of.
+template <class Visit> void for_each_specimen(Visit visit) {
+#define VISIT(name) visit(#name, name);
+  SPECIMENS(VISIT)
+}
+template <class Visit> void for_each_part(Visit visit) {
+  for_each_specimen(visit);
+  PARTS_OF_SPECIMENS(VISIT)
+#undef VISIT
+}
+
+TEST(Specimens, PrintAsWritten) {
+  harness::golden_sections sections;
+  std::map<std::string, std::pair<std::string, const void *>> last; // by type
+  for_each_specimen([&]<class R>(const std::string &name, const R &record) {
+    if constexpr (printable<R>) {
+      sections.add(name, text(record));
+      return;
+    } else {
+      auto &[reference, before] = last[name_of<R>()];
+      std::string shown = diff(record, static_cast<const R *>(before), nullptr, 0, false);
+      shown.resize(shown.find_last_not_of('\n') + 1);
+      shown = std::regex_replace(shown, std::regex(" (\n|$)"), " |$1");
+      sections.add(before != nullptr ? std::string(name).append(" after ").append(reference) : name, shown);
+      last[name_of<R>()] = {name, &record};
     }
   });
-  golden.expect("diff_records");
+  sections.add("scan results without the names of networks",
+               printed_by([](std::ostream &stream) { print_scan_results(stream, scan_results, true); }));
+  sections.expect("specimens");
 }
 
-TEST(Differences, OfTables) {
-  outputs golden;
-  for_all_records([&]<class T>() {
-    if constexpr (diffable<T> && table_record<T>) {
-      for (const unsigned count : {0U, 1U, 5U, 6U, 11U, 50U, 51U}) {
-        sample<T> table;
-        const sample<T> none;
-        randomness random(3, variety::tame);
-        fill_table(table.value, count, random);
-        expect_forms(table.value);
-        const std::string whole = diff(table.value, nothing<T>, "value", 1, false);
-        EXPECT_EQ(diff(table.value, &none.value, "value", 1, false), count == 0 ? "" : whole);
-        if (!record_table<T> || count < 5) {
-          golden.add(name_of<T>() + " of " + std::to_string(count), whole);
-        } else { // there is no upper limit
-          EXPECT_NE(whole.find(" " + std::to_string(count - 1) + "]:\n"), std::string::npos);
+TEST(Specimens, HaveAValueInEachFieldOfEachRecord) {
+  std::set<std::string> missing;
+  for (const harness::record_type *type : harness::record_types()) {
+    std::ranges::for_each(type->fields, [&](const auto &field) { missing.insert(type->name + "." + field.name); });
+  }
+  for_each_part([&]<class R>(const std::string & /*name*/, const R &record) {
+    for (const auto &field : harness::type_of(typeid(R)).fields) {
+      if (!field.has_same_octets(&record, &sample<R>().value)) {
+        missing.erase(name_of<R>() + "." + field.name);
+      }
+    }
+  });
+  EXPECT_EQ(missing, std::set<std::string>{});
+}
+
+std::string trimmed(const std::string &text) {
+  return std::regex_replace(text, std::regex("^ +|\n$"), "");
+}
+
+// Records that no line is written for are part of one that has a line.
+TEST(NewRecords, PrintAsWritten) {
+  std::ostringstream file;
+  file << std::ifstream(RAVIX_TEST_DATA "/new_records.txt").rdbuf();
+  std::istringstream joined(std::regex_replace(file.str(), std::regex("\n  "), " "));
+  std::map<std::string, std::string> written;
+  for (std::string line; std::getline(joined, line);) {
+    written[line.substr(0, line.find(':'))] = trimmed(line.substr(line.find(':') + 1));
+  }
+  for_all_records([&]<class R>() {
+    if constexpr (!table<R> && (printable<R> || diffable<R>)) {
+      std::string shown;
+      if constexpr (printable<R>) {
+        shown = text(sample<R>().value);
+      } else {
+        shown = whole(sample<R>().value);
+      }
+      shown = std::regex_replace(trimmed(shown), std::regex("\n *"), "; ");
+      const auto is_part = [&](const auto &line) { return line.second.find(shown) != std::string::npos; };
+      EXPECT_TRUE(written.contains(name_of<R>()) ? written[name_of<R>()] == shown
+                                                 : std::ranges::any_of(written, is_part))
+          << name_of<R>() << ": " << shown;
+    }
+  });
+}
+
+// ---- what a difference print adds to the texts of fields, judged by texts
+
+// What stands in a text's first column: a line each, with the deeper lines below it.
+std::vector<std::string> entries_of(const std::string &content) {
+  std::vector<std::string> entries;
+  std::istringstream lines(content);
+  for (std::string line; std::getline(lines, line);) {
+    if (entries.empty() || line[0] != ' ') {
+      entries.emplace_back();
+    }
+    entries.back() += line + '\n';
+  }
+  return entries;
+}
+
+std::string indented(const std::string &content, std::size_t blanks) {
+  return std::regex_replace(content, std::regex("[^\n]+"), std::string(blanks, ' ') + "$&");
+}
+
+// What is to be shown of a whole when another one is the reference: a field that is there in both if it differs, and of
+// a record in it no more than that. A table's entries, which no name begins, are shown together.
+std::string judged_difference(const std::string &value, const std::string &reference) {
+  const auto is_record = [](const std::string &entry) {
+    const std::size_t end = entry.find(":\n ");
+    return end != std::string::npos && entry[end + 3] >= 'a' && entry[end + 3] <= 'z';
+  };
+  const auto inner = [](const std::string &entry) {
+    return std::regex_replace(entry.substr(entry.find('\n') + 1), std::regex("(^|\n) "), "$1");
+  };
+  std::string shown;
+  const auto before = entries_of(reference);
+  for (const std::string &entry : entries_of(value)) {
+    const std::string name = entry.substr(0, entry.find(':') + 1);
+    const auto twin = std::ranges::find_if(before, [&](const auto &other) { return other.starts_with(name); });
+    if (twin == before.end() || !is_record(entry) || !is_record(*twin)) {
+      shown += twin != before.end() && *twin == entry ? "" : entry;
+    } else if (const std::string left = judged_difference(inner(entry), inner(*twin)); !left.empty()) {
+      shown += name + '\n' + indented(left, 1);
+    }
+  }
+  return shown;
+}
+
+// A whole, with the secret that it hides, by which the judge tells records apart.
+template <class R> std::string whole_with_secret(const R &r) {
+  const auto with = [&](const char *name, const auto &secret) {
+    return std::regex_replace(whole(r), std::regex(name),
+                              std::string("$&").append(std::begin(secret), std::end(secret)));
+  };
+  if constexpr (requires { r.security.key; }) {
+    return with("\n key: .SECRET.", r.security.key.key);
+  } else if constexpr (requires { r.key; }) {
+    return with("\nkey: .SECRET.", r.key.key);
+  } else if constexpr (requires { r.secret; }) {
+    return with("\nsecret: .SECRET.", r.secret);
+  }
+  return whole(r);
+}
+
+template <class R> constexpr bool is_record_of_fields = diffable<R> && !table<R> && !printable<R>;
+template <> constexpr bool is_record_of_fields<ravix_tlv_t> = false;
+template <> constexpr bool is_record_of_fields<ravix_ip_addr_t> = false;
+template <> constexpr bool is_record_of_fields<ravix_ssid_t> = false;
+template <> constexpr bool is_record_of_fields<ravix_key_t> = false;
+
+// Whole, against itself, and with each of its fields empty.
+TEST(Differences, ShowTheFieldsThatDifferAlone) {
+  for_each_part([]<class R>(const std::string &name, const R &record) {
+    if constexpr (is_record_of_fields<R>) {
+      const auto expect = [&](const R &value, const R &reference) {
+        const std::string shown = judged_difference(whole_with_secret(value), whole_with_secret(reference));
+        EXPECT_EQ(diff(value, &reference), std::regex_replace(shown, std::regex("(.SECRET.)[^\n]*"), "$1")) << name;
+      };
+      expect(record, record);
+      for (const auto &field : harness::type_of(typeid(R)).fields) {
+        if (name_of<R>() + "." + field.name != "ravix_cfg_radius_server.index") { // which is not compared
+          R other;                                                                // shares what the specimen has
+          std::memcpy(&other, &record, sizeof other);
+          field.take(&other, &sample<R>().value);
+          expect(other, record);
+          expect(record, other);
         }
       }
     }
   });
-  golden.expect("diff_tables");
 }
 
-// Each value whole, and after each other; alternately with and without a line end.
-template <class R> void add_all(outputs &golden, const std::vector<std::pair<std::string, R>> &values) {
-  bool newline = false;
-  for (const auto &[name, value] : values) {
-    golden.add(name, diff(value, nothing<R>, "value", 1, newline));
-    for (const auto &[reference_name, reference] : values) {
-      golden.add(std::string(name).append(" after ").append(reference_name),
-                 diff(value, &reference, "value", 1, newline = !newline));
+// The name above or before a content, the indentation of its lines, and its end.
+template <class R>
+std::string judged_layout(const R & /*of*/, const std::string &content, const char *name, unsigned indent,
+                          bool ends_line) {
+  std::string all = content;
+  if (name != nullptr && (is_record_of_fields<R> || table<R> || std::is_same_v<R, ravix_tlv_t>)) {
+    all = std::string(name) + ":\n" + indented(content, 1);
+  } else if (name != nullptr) {
+    all = std::string(name) + ": " + content;
+  }
+  all = indented(all, indent);
+  return ends_line ? all : all.substr(0, all.size() - 1);
+}
+
+TEST(Differences, StandUnderTheirNameIndentedAndEndTheirLastLineAsAsked) {
+  for_each_part([]<class R>(const std::string &of, const R &record) {
+    if constexpr (diffable<R>) {
+      const std::string content = whole(record);
+      // A record that is the last field of another one ends its own line.
+      const bool has_end = is_record_of_fields<R> && entries_of(content).back().find(":\n") != std::string::npos;
+      for (const char *name : {static_cast<const char *>(nullptr), "", "value"}) {
+        for (const unsigned indent : {0U, 1U, 2U, 47U, 48U, 49U, 97U, 300U}) {
+          for (const bool newline : {false, true}) {
+            EXPECT_EQ(diff(record, static_cast<const R *>(nullptr), name, indent, newline),
+                      judged_layout(record, content, name, indent, newline || has_end))
+                << of;
+          }
+        }
+      }
     }
+  });
+}
+
+// ---- tables
+
+// What a table shows of an entry on one line.
+std::string line_of(std::uint32_t frequency) {
+  return ravix_str_frequency(frequency);
+}
+std::string line_of(std::int32_t id) {
+  return ravix_str_id(id);
+}
+std::string line_of(const ravix_mac_t &mac) {
+  return ravix_str_mac(mac);
+}
+std::string line_of(const ravix_ssid_t &ssid) {
+  return ravix_str_ssid(&ssid, true);
+}
+std::string line_of(const char *text) {
+  return text != nullptr ? '"' + std::string(text) + '"' : "<nullptr>";
+}
+
+// "[i]: ", all as wide as the last one.
+std::string judged_index(std::size_t i, std::size_t count) {
+  std::ostringstream index;
+  index << '[' << std::setw(static_cast<int>(std::to_string(count - 1).size())) << i << "]: ";
+  return index.str();
+}
+
+std::string judged_list(std::size_t count, auto line_of_entry) {
+  std::string list;
+  for (std::size_t i = 0; i < count; ++i) {
+    list += (i == 0 ? "" : "\n") + line_of_entry(i);
+  }
+  return count == 0 ? "-- no entries --" : list;
+}
+
+const std::map<std::string, std::string> headings = {{"ravix_tlv", "TLV"},
+                                                     {"ravix_cfg_radius_server", "RADIUS SERVER"},
+                                                     {"ravix_cfg_security_extended", "SECURITY EXTENDED"},
+                                                     {"ravix_station_entry", "STATION"},
+                                                     {"ravix_remote_client_entry", "REMOTE CLIENT"},
+                                                     {"ravix_remote_ap_entry", "REMOTE AP"},
+                                                     {"ravix_station_history_entry", "STATION HISTORY"}};
+
+template <class T> std::string judged_table(const T &t) {
+  using E = std::remove_pointer_t<decltype(t.data)>;
+  const auto entry = [&](std::size_t i) {
+    if constexpr (printable<E>) {
+      return text(t.data[i]);
+    } else if constexpr (is_record_of_fields<E> || std::is_same_v<E, ravix_tlv_t>) {
+      const std::string fields = indented(whole(t.data[i]), 1);
+      return fields.substr(0, fields.size() - 1);
+    } else {
+      return line_of(t.data[i]);
+    }
+  };
+  std::string heading;
+  if constexpr (std::is_class_v<E>) {
+    heading = headings.contains(name_of<E>()) ? headings.at(name_of<E>()) : "";
+  }
+  const bool is_short = std::is_integral_v<E> && t.count <= 5;
+  std::string all = t.count == 0 ? "-- no entries --" : "";
+  for (std::size_t i = 0; i < t.count; ++i) {
+    all += i == 0 ? "" : is_short ? ", " : "\n";
+    all += !heading.empty() ? "[" + heading + " " + std::to_string(i) + "]:\n"
+           : is_short       ? ""
+                            : judged_index(i, t.count);
+    all += entry(i);
+  }
+  return heading.empty() && diffable<T> && t.count > 50 ? "-- too many entries --" : all;
+}
+
+// The entries of a specimen over and over. Where they are columns, the first line names them.
+TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
+  for_each_part([]<class T>(const std::string &name, const T &some) {
+    if constexpr (table<T>) {
+      for (const std::uint32_t count : {0U, 1U, 2U, 5U, 6U, 10U, 11U, 50U, 51U, 100U, 101U}) {
+        const auto entries = std::make_unique<std::byte[]>(count * sizeof *some.data);
+        T many = some;
+        many.count = count;
+        many.data = reinterpret_cast<decltype(many.data)>(entries.get());
+        for (std::uint32_t i = 0; i < count; ++i) {
+          std::memcpy(&many.data[i], &some.data[i % some.count], sizeof *many.data);
+        }
+        if constexpr (printable<T>) {
+          const std::string columns = std::regex_replace(text(some), std::regex("^(.*[|].*\n)?[^]*"), "$1");
+          EXPECT_EQ(text(many), columns + judged_table(many)) << name;
+        } else {
+          EXPECT_EQ(whole(many), judged_table(many) + "\n") << name;
+        }
+      }
+    }
+  });
+}
+
+// Rows of sixteen octets, at every length.
+TEST(Elements, ShowTheirOctetsInRows) {
+  std::vector<std::uint8_t> octets(UINT8_MAX);
+  std::iota(octets.begin(), octets.end(), std::uint8_t{5});
+  for (unsigned length = 0; length <= UINT8_MAX; ++length) {
+    std::ostringstream expected;
+    expected << "type: 7, length: " << length << std::hex << std::setfill('0');
+    for (unsigned i = 0; i < (length + 15) / 16 * 16; ++i) {
+      if (i % 16 == 0) {
+        expected << '\n' << std::setw(8) << i << ": ";
+      }
+      if (i < length) {
+        expected << std::setw(2) << unsigned{octets[i]} << ' ';
+      } else {
+        expected << "   ";
+      }
+    }
+    EXPECT_EQ(whole(ravix_tlv_t{7, static_cast<std::uint8_t>(length), octets.data()}), expected.str() + "\n");
   }
 }
 
-TEST(Differences, OfWhatIsMissingOrOfAnotherKind) {
-  outputs golden;
-  std::uint8_t octets[17] = {0x00, 0x7F, 0x80, 0xFF};
-  add_all<ravix_tlv_t>(golden, {{"none", {221, 0, nullptr}},
-                                {"hollow", {221, 16, nullptr}},
-                                {"a row", {221, 16, octets}},
-                                {"more", {221, 17, octets}}});
-  const auto rule = [](std::uint32_t type) {
-    ravix_cfg_auto_update_rule_t made;
-    std::memset(&made, 0, sizeof made); // braces would leave what lies beyond the first member of the union
-    made.type = type;
-    return made;
-  };
-  add_all<ravix_cfg_auto_update_rule_t>(
-      golden, {{"no rule", rule(0)}, {"mode", rule(1)}, {"feature", rule(2)}, {"odd rule", rule(7)}});
-
-  ravix_cfg_role_config_ap_t ap_config{};
-  ravix_cfg_role_config_sta_t station_config{};
-  const auto role = [](std::uint8_t mode, void *config, std::int32_t id = 0) {
-    ravix_cfg_role_static_t made{};
-    made.op_mode = mode;
-    made.config_ap = static_cast<ravix_cfg_role_config_ap_t *>(config); // or that of a station
-    made.id = id;
-    return made;
-  };
-  void *odd_config = &octets; // never looked at
-  add_all<ravix_cfg_role_static_t>(golden, {{"access point", role(RAVIX_ROLE_OPMODE_AP_HOME, &ap_config)},
-                                            {"station", role(RAVIX_ROLE_OPMODE_REPEATER, &station_config)},
-                                            {"incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME, nullptr)},
-                                            {"renamed incomplete", role(RAVIX_ROLE_OPMODE_AP_HOME, nullptr, 1)},
-                                            {"odd role", role(4, odd_config)}});
-  golden.expect("diff_special");
+TEST(Airtime, HasThreeDecimalsHoweverManyDigits) {
+  EXPECT_EQ(text(ravix_radio_airtime_entry_t{0.5F, 12345.6875F, -0.0004F, 1e6F}),
+            "   0.500, 12345.688,   -0.000, 1000000.000");
 }
+
+// ---- secrets
 
 // Calls check(print) for each print of a record to a stream.
 template <class Check>
@@ -255,6 +424,31 @@ TEST(Secrets, ReachNoOutput) {
       for_each_print(*type, harness::any_sample(*type, seed), harness::any_sample(*type), check);
     }
   }
+}
+
+// The fields that show nothing of their value, and any whose name suggests that it should not.
+TEST(Secrets, AreTheKeysOfNetworksAndTheSecretsOfServers) {
+  const std::set<std::string> secrets = {"ravix_cfg_wlan_security.key", "ravix_cfg_radius_server.secret"};
+  const std::set<std::string> names_alone = {"ravix_key.key", "ravix_cfg_security_extended.key_mgmt"};
+  const std::regex suggestion("key|secret|pass|psk|pin|token|credential|private");
+  std::set<std::string> hidden;
+  for_each_part([&]<class R>(const std::string & /*name*/, const R &record) {
+    for (const auto &field : harness::type_of(typeid(R)).fields) {
+      const std::string name = name_of<R>() + "." + field.name;
+      EXPECT_TRUE(!std::regex_search(field.name, suggestion) || secrets.contains(name) || names_alone.contains(name))
+          << name;
+      if constexpr (is_record_of_fields<R>) {
+        R other;
+        std::memcpy(&other, &record, sizeof other);
+        field.take(&other, &sample<R>().value);
+        if (!field.has_same_octets(&other, &record) && whole(other) == whole(record)) {
+          hidden.insert(name);
+        }
+      }
+    }
+  });
+  EXPECT_EQ(hidden, secrets);
+  EXPECT_EQ(whole(home_network.security.key), "[SECRET]\n");
 }
 
 // ---- the stream

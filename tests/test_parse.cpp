@@ -1,4 +1,4 @@
-// Texts read back: names and numbers as they stand in tests/data/parse.golden, addresses as sscanf() reads them.
+// Texts read back: names and numbers as they stand in tests/data/parse.txt, addresses as sscanf() reads them.
 #include "golden.hpp"
 #include "harness.hpp"
 

@@ -1,5 +1,5 @@
 // Radio arithmetic against slow, obvious judges: the channels of the standard's tables, written out in
-// tests/data/channels.txt instead of computed. Single calls with unusual arguments stand in radio_calls.golden.
+// tests/data/channels.txt instead of computed. Single calls with unusual arguments stand in radio_calls.txt.
 #include "golden.hpp"
 #include "harness.hpp"
 

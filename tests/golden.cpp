@@ -138,6 +138,23 @@ void expect_answers(const std::string &name, const std::function<std::string(con
   expect_golden(name, answered);
 }
 
+std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> written_names() {
+  std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> lists;
+  std::string what;
+  for (std::string line : lines_of(expected_file("names").text())) {
+    if (!line.empty() && line[0] != '#' && line[0] != ' ') {
+      what = line.substr(0, line.find(':'));
+      line.erase(0, what.size() + 1);
+    }
+    std::istringstream entries(line[0] != '#' ? line : "");
+    for (std::string entry; std::getline(entries >> std::ws, entry, ',');) {
+      const std::size_t blank = entry.find(' ');
+      lists[what].emplace_back(std::stoll(entry.substr(0, blank), nullptr, 0), entry.substr(blank + 1));
+    }
+  }
+  return lists;
+}
+
 void golden_sections::expect(const std::string &name) const {
   const std::string text = expected_file(name).text();
   expect_golden(name, text.substr(0, text.starts_with('#') ? text.find("--- ") : 0) + collected_);

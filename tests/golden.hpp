@@ -8,9 +8,13 @@
 
 #include "harness.hpp"
 
+#include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace harness {
 
@@ -28,6 +32,9 @@ void expect_answers(const std::string &name, const std::function<std::string(con
 
 // The same for inputs of several lines: "=== <title>", the input, "---", and what comes of it.
 void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome);
+
+// The names of tests/data/names.txt with their values, by list.
+std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> written_names();
 
 // Collects texts that share a file, each under a title: "--- <title>", the text; with empty lines between them. The
 // file may begin with comments.

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -63,6 +64,26 @@ TEST(Log, WritesOneLinePerEndedLineWithItsCallSite) {
   }
   EXPECT_EQ(lines, "ravix|src/x|function|12|first 1\nravix|src/x|function|12|" + longest +
                        "\ndefault|||1|to the default logger\nnamed|||2|to a named one\nravix|||3|kept\n");
+}
+
+// The last test of this program: it leaves no room for further names.
+TEST(Log, HasRoomForSixteenNamesOfUpTo31Characters) {
+  const std::string longest(31, 'n');
+  EXPECT_EQ(clogger_get((longest + "n").c_str()), nullptr);
+  EXPECT_STREQ(clogger_get_name(clogger_get(longest.c_str())), longest.c_str());
+  std::map<clogmod *, std::string> modules;
+  for (int i = 0; i < 100; ++i) {
+    const std::string name = "module " + std::to_string(i);
+    if (clogmod *module = clogmod_get_or_alloc(name.c_str()); module != nullptr) {
+      modules[module] = name;
+    }
+  }
+  EXPECT_LT(modules.size(), 16U) << "with the longest name";
+  EXPECT_GT(modules.size(), 10U);
+  for (const auto &[module, name] : modules) {
+    EXPECT_EQ(clogger_get_name(clogmod_get_clogger(module)), name);
+    EXPECT_EQ(clogmod_get_or_alloc(name.c_str()), module);
+  }
 }
 
 } // namespace

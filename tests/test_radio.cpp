@@ -162,78 +162,84 @@ void collect(const entry *visited, void *context, uint32_t frequency) {
   *static_cast<std::string *>(context) += ' ' + std::to_string(visited->frequency == frequency ? frequency : 0);
 }
 
-// Makes a call that is written as in the golden file; "null" as an argument is a null pointer.
-std::string answer(const std::string &call) {
-  std::vector<entry> entries = {{5220000, 20, 0xC8, 0, 0}, {5190000, 20, 1, 0, 0}, {5200000, 20, 0xE9, ~0U, 0}};
-  for (const uint32_t f : {5240000U, 5170000U, 5169999U, 5250000U, 5250001U, 5180000U})
-    entries.push_back({f, 20, 0x27, f == 5180000 ? 0x20U : 0U, 0});
-  const ravix_channel_list_t full = {static_cast<uint32_t>(entries.size()), entries.data()}, no_array = {3, nullptr};
-
-  std::istringstream in(call);
-  const std::vector<std::string> words{std::istream_iterator<std::string>(in), {}};
-  const std::string &function = words.at(0);
-  const auto number = [&](std::size_t i) { return static_cast<uint32_t>(std::stoul(words.at(i), nullptr, 0)); };
-  const auto code = [&](std::size_t i) { return static_cast<uint16_t>(number(i)); };
-  const auto octet = [&](std::size_t i) { return static_cast<uint8_t>(number(i)); };
-  const auto real = [&](std::size_t i) { return std::strtof(words.at(i).c_str(), nullptr); };
-  const auto given = [&](std::size_t i, auto *pointer) { return words.at(i) != "null" ? pointer : nullptr; };
-  const auto list = [&](std::size_t i) { return given(i, words.at(i) == "no_array" ? &no_array : &full); };
+// A call's arguments as they stand in the file; "null" is a null pointer.
+struct arguments {
+  std::vector<std::string> words; // the first is the function
+  std::vector<entry> entries = {{5220000, 20, 0xC8, 0, 0}, {5190000, 20, 1, 0, 0},    {5200000, 20, 0xE9, ~0U, 0},
+                                {5240000, 20, 0x27, 0, 0}, {5170000, 20, 0x27, 0, 0}, {5169999, 20, 0x27, 0, 0},
+                                {5250000, 20, 0x27, 0, 0}, {5250001, 20, 0x27, 0, 0}, {5180000, 20, 0x27, 0x20, 0}};
+  ravix_channel_list_t full = {static_cast<uint32_t>(entries.size()), entries.data()}, no_array = {3, nullptr};
   info asked = {}, written = {1, 2, 3, 4};
-  const auto channel = [&](std::size_t i) -> const info * {
+  uint32_t low = 7, high = 7;
+  std::string visited;
+
+  uint32_t number(std::size_t i) const { return static_cast<uint32_t>(std::stoul(words.at(i), nullptr, 0)); }
+  uint16_t code(std::size_t i) const { return static_cast<uint16_t>(number(i)); }
+  uint8_t octet(std::size_t i) const { return static_cast<uint8_t>(number(i)); }
+  float real(std::size_t i) const { return std::strtof(words.at(i).c_str(), nullptr); }
+  auto given(std::size_t i, auto *pointer) const { return words.at(i) != "null" ? pointer : nullptr; }
+  const ravix_channel_list_t *list(std::size_t i) const {
+    return given(i, words.at(i) == "no_array" ? &no_array : &full);
+  }
+  const info *channel(std::size_t i) {
     const char *const format = "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16;
     const int read = std::sscanf( // NOLINT(cert-err34-c): the numbers stand in a file of ours
         words.at(i).c_str(), format, &asked.primary_freq, &asked.center_freq, &asked.channel_width,
         &asked.puncture_map);
     return read == 4 ? &asked : nullptr;
-  };
-  if (function == "numbers") {
-    uint32_t low = 7, high = 7;
-    const bool done = ravix_channel_info_to_lowest_and_highest_channel(channel(1), given(2, &low), given(3, &high));
-    return shown(done) + " {" + shown(low, high) + '}';
   }
-  if (function == "walk") {
-    std::string visited;
-    const int result = ravix_channel_info_check_range(list(1), channel(2), given(3, &collect), &visited);
-    return shown(result) + " {" + visited + " }";
-  }
-  if (function == "clear") {
-    bool clear = number(3) == 1;
-    const int result = ravix_channel_is_clear(list(1), channel(2), number(3), given(4, &clear));
-    return shown(result) + " {" + shown(clear) + '}';
-  }
-  if (function == "auto") {
-    const int result = ravix_create_channel_info_auto(number(1), code(2), number(3) != 0, code(4), given(5, &written));
-    return shown(result) + ' ' + shown(written);
-  }
-  if (function == "search") {
-    const int result = ravix_get_max_clear_channel_info(list(1), number(2), 1, true, code(3), given(4, &written));
-    return shown(result) + ' ' + shown(written);
-  }
-  const auto millionths = [](float value) { return std::round(value / 1e-6F); }; // the last digits are powf()'s own
-  return function == "at"     ? shown(ravix_frequency_to_channel(number(1)), ravix_frequency_to_radio_band(number(1)),
-                                      ravix_frequency_to_radio_sub_band(number(1)))
-         : function == "band" ? shown(ravix_channel_to_radio_band(number(1)))
-         : function == "frequency" ? shown(ravix_frequency_from_channel_and_band(number(1), number(2)),
-                                           ravix_radio_band_and_channel_to_frequency(number(2), number(1)))
-         : function == "width" ? shown(ravix_channel_width_to_frequency(code(1)), ravix_channel_width_lower(code(1)),
-                                       ravix_channel_width_higher(code(1)))
-         : function == "width_of_khz"          ? shown(ravix_frequency_to_channel_width(number(1)))
-         : function == "width_of_capabilities" ? shown(ravix_channel_capabilities_to_channel_width(number(1)))
-         : function == "match"                 ? shown(ravix_channel_capabilities_match_width(number(1), code(2)))
-         : function == "mode"
-             ? shown(ravix_wlan_mode_is_valid(number(1)), ravix_get_highest_channel_width_from_mode(number(1)))
-         : function == "codes"
-             ? shown(dBm_to_ravix_rcpi_val(real(1)), dBm_to_ravix_anpi_val(real(1)), dB_to_ravix_rsni_val(real(1)))
-         : function == "decoded"
-             ? shown(ravix_rcpi_val_to_dBm(octet(1)), ravix_anpi_val_to_dBm(octet(1)), ravix_rsni_val_to_dB(octet(1)))
-         : function == "rsni" ? shown(ravix_calculate_rsni_dB(real(1), real(2)))
-         : function == "factor"
-             ? shown(millionths(ravix_dB_to_factor(real(1))), millionths(ravix_dBm_to_power_mW(real(1))))
-             : shown(ravix_puncture_map_is_valid(code(1), channel(2)));
+};
+
+std::string millionths(float value) {
+  return shown(std::round(value / 1e-6F)); // the last digits are powf()'s own
 }
 
-TEST(Calls, AreAnsweredAsRecorded) {
-  harness::expect_answers("radio_calls", answer);
+#define GIVES(...) [](arguments &a) { return std::string(__VA_ARGS__); }
+const std::map<std::string, std::string (*)(arguments &a)> calls = {
+    {"at", GIVES(shown(ravix_frequency_to_channel(a.number(1)), ravix_frequency_to_radio_band(a.number(1)),
+                             ravix_frequency_to_radio_sub_band(a.number(1))))},
+    {"band", GIVES(shown(ravix_channel_to_radio_band(a.number(1))))},
+    {"frequency", GIVES(shown(ravix_frequency_from_channel_and_band(a.number(1), a.number(2)),
+                                    ravix_radio_band_and_channel_to_frequency(a.number(2), a.number(1))))},
+    {"width", GIVES(shown(ravix_channel_width_to_frequency(a.code(1)), ravix_channel_width_lower(a.code(1)),
+                                ravix_channel_width_higher(a.code(1))))},
+    {"width_of_khz", GIVES(shown(ravix_frequency_to_channel_width(a.number(1))))},
+    {"width_of_capabilities", GIVES(shown(ravix_channel_capabilities_to_channel_width(a.number(1))))},
+    {"match", GIVES(shown(ravix_channel_capabilities_match_width(a.number(1), a.code(2))))},
+    {"mode", GIVES(shown(ravix_wlan_mode_is_valid(a.number(1)),
+                               ravix_get_highest_channel_width_from_mode(a.number(1))))},
+    {"codes", GIVES(shown(dBm_to_ravix_rcpi_val(a.real(1)), dBm_to_ravix_anpi_val(a.real(1)),
+                                dB_to_ravix_rsni_val(a.real(1))))},
+    {"decoded", GIVES(shown(ravix_rcpi_val_to_dBm(a.octet(1)), ravix_anpi_val_to_dBm(a.octet(1)),
+                                  ravix_rsni_val_to_dB(a.octet(1))))},
+    {"rsni", GIVES(shown(ravix_calculate_rsni_dB(a.real(1), a.real(2))))},
+    {"factor",
+     GIVES(millionths(ravix_dB_to_factor(a.real(1))) + ' ' + millionths(ravix_dBm_to_power_mW(a.real(1))))},
+    {"puncture", GIVES(shown(ravix_puncture_map_is_valid(a.code(1), a.channel(2))))},
+    {"numbers", [](arguments &a) {const bool done = ravix_channel_info_to_lowest_and_highest_channel(
+                         a.channel(1), a.given(2, &a.low), a.given(3, &a.high));
+                     return shown(done) + " {" + shown(a.low, a.high) + '}';}},
+    {"walk",
+     [](arguments &a) {const int result = ravix_channel_info_check_range(a.list(1), a.channel(2), a.given(3, &collect), &a.visited);
+          return shown(result) + " {" + a.visited + " }";}},
+    {"clear", [](arguments &a) {bool clear = a.number(3) == 1;
+                   const int result = ravix_channel_is_clear(a.list(1), a.channel(2), a.number(3), a.given(4, &clear));
+                   return shown(result) + " {" + shown(clear) + '}';}},
+    {"auto", [](arguments &a) {const int result = ravix_create_channel_info_auto(a.number(1), a.code(2), a.number(3) != 0, a.code(4),
+                                                                    a.given(5, &a.written));
+                  return shown(result) + ' ' + shown(a.written);}},
+    {"search", [](arguments &a) {const int result = ravix_get_max_clear_channel_info(a.list(1), a.number(2), 1, true, a.code(3),
+                                                                        a.given(4, &a.written));
+                    return shown(result) + ' ' + shown(a.written);}}};
+#undef GIVES
+
+TEST(Calls, AreAnsweredAsWritten) {
+  harness::expect_answers("radio_calls", [](const std::string &call) {
+    std::istringstream in(call);
+    arguments given;
+    given.words.assign(std::istream_iterator<std::string>(in), {});
+    return calls.at(given.words.at(0))(given);
+  });
   EXPECT_FALSE(ravix_channel_info_is_valid(nullptr));
   EXPECT_FALSE(ravix_create_channel_info(2412000, 1, false, 0, nullptr));
 }

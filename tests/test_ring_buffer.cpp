@@ -8,13 +8,22 @@
 
 #include <algorithm>
 #include <memory>
+#include <mutex>
 #include <random>
 #include <string>
 #include <vector>
 
 namespace {
 
+using zel::ravix::format_buffer;
 using zel::ravix::ring_buffer;
+
+// Made before main(), and before any initialisation that the area might ask for at load time: this is the program's
+// first object.
+const char *const early_text = [] {
+  const std::lock_guard lock(zel::ravix::format_mutex);
+  return format_buffer.write_and_finish("%s", "early");
+}();
 
 constexpr std::size_t capacity = ring_buffer::capacity;
 
@@ -69,6 +78,11 @@ TEST(RingBuffer, PiecesBecomeTextsThatFollowEachOther) {
   }
   EXPECT_GT(number_cut, 1000U);
   EXPECT_EQ(log.take().size(), number_cut);
+}
+
+TEST(RingBuffer, IsReadyBeforeTheProgramIsAndKeepsWhatWasMadeThen) {
+  EXPECT_STREQ(early_text, "early");
+  EXPECT_EQ(format_buffer.write_and_finish("%s", "next"), early_text + sizeof "early");
 }
 
 TEST(RingBuffer, CutsATextThatCannotBeFormatted) {

@@ -22,6 +22,8 @@
 #include <sstream>
 #include <string>
 #include <tuple>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -175,7 +177,6 @@ struct arguments {
 
   uint32_t number(std::size_t i) const { return static_cast<uint32_t>(std::stoul(words.at(i), nullptr, 0)); }
   uint16_t code(std::size_t i) const { return static_cast<uint16_t>(number(i)); }
-  uint8_t octet(std::size_t i) const { return static_cast<uint8_t>(number(i)); }
   float real(std::size_t i) const { return std::strtof(words.at(i).c_str(), nullptr); }
   auto given(std::size_t i, auto *pointer) const { return words.at(i) != "null" ? pointer : nullptr; }
   const ravix_channel_list_t *list(std::size_t i) const {
@@ -190,48 +191,78 @@ struct arguments {
   }
 };
 
-std::string millionths(float value) {
-  return shown(std::round(value / 1e-6F)); // the last digits are powf()'s own
+// What a function makes of the arguments, read by the types that it takes; or several, one after the other.
+template <class T> T read(arguments &a, std::size_t i) {
+  if constexpr (std::is_pointer_v<T>) {
+    return a.channel(i);
+  } else if constexpr (std::is_floating_point_v<T>) {
+    return a.real(i);
+  } else {
+    return static_cast<T>(a.number(i));
+  }
+}
+template <class Result, class... T> std::string result_of(Result (*function)(T...), arguments &a) {
+  return [&]<std::size_t... i>(std::index_sequence<i...>) {
+    return shown(function(read<T>(a, i + 1)...));
+  }
+  (std::index_sequence_for<T...>{});
+}
+template <auto First, auto... More> std::string results(arguments &a) {
+  return (result_of(First, a) + ... + (' ' + result_of(More, a)));
 }
 
-#define GIVES(...) [](arguments &a) { return std::string(__VA_ARGS__); }
+uint32_t frequency_of(uint32_t channel, uint32_t band) {
+  return ravix_radio_band_and_channel_to_frequency(band, channel);
+}
+float millionths_of_factor(float db) {
+  return std::round(ravix_dB_to_factor(db) / 1e-6F); // the last digits are powf()'s own
+}
+float millionths_of_power(float dbm) {
+  return std::round(ravix_dBm_to_power_mW(dbm) / 1e-6F);
+}
+
 const std::map<std::string, std::string (*)(arguments &a)> calls = {
-    {"at", GIVES(shown(ravix_frequency_to_channel(a.number(1)), ravix_frequency_to_radio_band(a.number(1)),
-                             ravix_frequency_to_radio_sub_band(a.number(1))))},
-    {"band", GIVES(shown(ravix_channel_to_radio_band(a.number(1))))},
-    {"frequency", GIVES(shown(ravix_frequency_from_channel_and_band(a.number(1), a.number(2)),
-                                    ravix_radio_band_and_channel_to_frequency(a.number(2), a.number(1))))},
-    {"width", GIVES(shown(ravix_channel_width_to_frequency(a.code(1)), ravix_channel_width_lower(a.code(1)),
-                                ravix_channel_width_higher(a.code(1))))},
-    {"width_of_khz", GIVES(shown(ravix_frequency_to_channel_width(a.number(1))))},
-    {"width_of_capabilities", GIVES(shown(ravix_channel_capabilities_to_channel_width(a.number(1))))},
-    {"match", GIVES(shown(ravix_channel_capabilities_match_width(a.number(1), a.code(2))))},
-    {"mode", GIVES(shown(ravix_wlan_mode_is_valid(a.number(1)),
-                               ravix_get_highest_channel_width_from_mode(a.number(1))))},
-    {"codes", GIVES(shown(dBm_to_ravix_rcpi_val(a.real(1)), dBm_to_ravix_anpi_val(a.real(1)),
-                                dB_to_ravix_rsni_val(a.real(1))))},
-    {"decoded", GIVES(shown(ravix_rcpi_val_to_dBm(a.octet(1)), ravix_anpi_val_to_dBm(a.octet(1)),
-                                  ravix_rsni_val_to_dB(a.octet(1))))},
-    {"rsni", GIVES(shown(ravix_calculate_rsni_dB(a.real(1), a.real(2))))},
-    {"factor",
-     GIVES(millionths(ravix_dB_to_factor(a.real(1))) + ' ' + millionths(ravix_dBm_to_power_mW(a.real(1))))},
-    {"puncture", GIVES(shown(ravix_puncture_map_is_valid(a.code(1), a.channel(2))))},
-    {"numbers", [](arguments &a) {const bool done = ravix_channel_info_to_lowest_and_highest_channel(
-                         a.channel(1), a.given(2, &a.low), a.given(3, &a.high));
-                     return shown(done) + " {" + shown(a.low, a.high) + '}';}},
+    {"at", results<ravix_frequency_to_channel, ravix_frequency_to_radio_band, ravix_frequency_to_radio_sub_band>},
+    {"band", results<ravix_channel_to_radio_band>},
+    {"frequency", results<ravix_frequency_from_channel_and_band, frequency_of>},
+    {"width", results<ravix_channel_width_to_frequency, ravix_channel_width_lower, ravix_channel_width_higher>},
+    {"width_of_khz", results<ravix_frequency_to_channel_width>},
+    {"width_of_capabilities", results<ravix_channel_capabilities_to_channel_width>},
+    {"match", results<ravix_channel_capabilities_match_width>},
+    {"mode", results<ravix_wlan_mode_is_valid, ravix_get_highest_channel_width_from_mode>},
+    {"codes", results<dBm_to_ravix_rcpi_val, dBm_to_ravix_anpi_val, dB_to_ravix_rsni_val>},
+    {"decoded", results<ravix_rcpi_val_to_dBm, ravix_anpi_val_to_dBm, ravix_rsni_val_to_dB>},
+    {"rsni", results<ravix_calculate_rsni_dB>},
+    {"factor", results<millionths_of_factor, millionths_of_power>},
+    {"puncture", results<ravix_puncture_map_is_valid>},
+    {"numbers",
+     [](arguments &a) {
+       const bool done =
+           ravix_channel_info_to_lowest_and_highest_channel(a.channel(1), a.given(2, &a.low), a.given(3, &a.high));
+       return shown(done) + " {" + shown(a.low, a.high) + '}';
+     }},
     {"walk",
-     [](arguments &a) {const int result = ravix_channel_info_check_range(a.list(1), a.channel(2), a.given(3, &collect), &a.visited);
-          return shown(result) + " {" + a.visited + " }";}},
-    {"clear", [](arguments &a) {bool clear = a.number(3) == 1;
-                   const int result = ravix_channel_is_clear(a.list(1), a.channel(2), a.number(3), a.given(4, &clear));
-                   return shown(result) + " {" + shown(clear) + '}';}},
-    {"auto", [](arguments &a) {const int result = ravix_create_channel_info_auto(a.number(1), a.code(2), a.number(3) != 0, a.code(4),
-                                                                    a.given(5, &a.written));
-                  return shown(result) + ' ' + shown(a.written);}},
-    {"search", [](arguments &a) {const int result = ravix_get_max_clear_channel_info(a.list(1), a.number(2), 1, true, a.code(3),
-                                                                        a.given(4, &a.written));
-                    return shown(result) + ' ' + shown(a.written);}}};
-#undef GIVES
+     [](arguments &a) {
+       const int result = ravix_channel_info_check_range(a.list(1), a.channel(2), a.given(3, &collect), &a.visited);
+       return shown(result) + " {" + a.visited + " }";
+     }},
+    {"clear",
+     [](arguments &a) {
+       bool clear = a.number(3) == 1;
+       const int result = ravix_channel_is_clear(a.list(1), a.channel(2), a.number(3), a.given(4, &clear));
+       return shown(result) + " {" + shown(clear) + '}';
+     }},
+    {"auto",
+     [](arguments &a) {
+       const int result =
+           ravix_create_channel_info_auto(a.number(1), a.code(2), a.number(3) != 0, a.code(4), a.given(5, &a.written));
+       return shown(result) + ' ' + shown(a.written);
+     }},
+    {"search", [](arguments &a) {
+       const int result =
+           ravix_get_max_clear_channel_info(a.list(1), a.number(2), 1, true, a.code(3), a.given(4, &a.written));
+       return shown(result) + ' ' + shown(a.written);
+     }}};
 
 TEST(Calls, AreAnsweredAsWritten) {
   harness::expect_answers("radio_calls", [](const std::string &call) {

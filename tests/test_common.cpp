@@ -192,7 +192,7 @@ TEST(Failures, OfCopiesAreToldInnermostFirst) {
       harness::sample<R> copied(1);
       log.take();
       heap.fail_only(k);
-      const int code = record<R>::copy(&specimen, &copied.value);
+      const int code = operations<R>::copy(&specimen, &copied.value);
       const bool is_reached = heap.requests() >= k;
       heap.fail_only(0);
       const bool is_empty = harness::difference(copied.value, harness::sample<R>().value).empty();

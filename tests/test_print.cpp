@@ -519,7 +519,7 @@ private:
 // its state.
 TEST(Streams, AreLeftAloneByValuesThatAreEqual) {
   for (const harness::record_type *type : harness::record_types()) {
-    const harness::any_sample r(*type, randomness(1, variety::full));
+    const harness::any_sample r(*type, harness::randomness(1, harness::variety::full));
     if (type->print_diff == nullptr) {
       continue;
     }

@@ -9,7 +9,6 @@
 #include <fstream>
 #include <iterator>
 #include <map>
-#include <numeric>
 #include <sstream>
 #include <utility>
 #include <vector>
@@ -47,18 +46,13 @@ std::vector<std::string> lines_of(const std::string &text) {
   return lines;
 }
 
-// How many lines of a text stand in another one too, in the same order.
-std::size_t kept(const std::vector<std::string> &old_lines, const std::vector<std::string> &new_lines) {
-  std::vector<std::size_t> most(new_lines.size() + 1);
-  for (const std::string &old_line : old_lines) {
-    std::size_t before = 0;
-    for (std::size_t i = 0; i < new_lines.size(); ++i) {
-      const std::size_t with_this = old_line == new_lines[i] ? before + 1 : 0;
-      before = most[i + 1];
-      most[i + 1] = std::max({most[i + 1], most[i], with_this});
-    }
-  }
-  return most.back();
+// How many lines of a text another one has not.
+std::size_t lines_missing(const std::string &text, const std::string &other) {
+  std::vector<std::string> lines = lines_of(text), others = lines_of(other), missing;
+  std::ranges::sort(lines);
+  std::ranges::sort(others);
+  std::ranges::set_difference(lines, others, std::back_inserter(missing));
+  return missing.size();
 }
 
 // Rewrites recorded files when a test has ended, since only then it is known that nothing else is wrong with it.
@@ -76,12 +70,10 @@ private:
         ADD_FAILURE() << "did not rewrite " << path << ": the test fails in something else too";
         continue;
       }
-      const auto before = lines_of(expected_file(std::filesystem::path(path).replace_extension()).text());
-      const auto after = lines_of(text);
-      const std::size_t same = kept(before, after);
+      const std::string before = expected_file(std::filesystem::path(path).replace_extension()).text();
       EXPECT_TRUE((std::ofstream(path, std::ios::binary) << text).flush()) << path << " cannot be written";
-      ADD_FAILURE() << "rewrote " << path << ": " << after.size() - same << " lines added, " << before.size() - same
-                    << " removed; the next run accepts them, so read them first";
+      ADD_FAILURE() << "rewrote " << path << ": " << lines_missing(text, before) << " lines added, "
+                    << lines_missing(before, text) << " removed; the next run accepts them, so read them first";
     }
   }
 };

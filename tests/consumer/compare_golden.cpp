@@ -8,26 +8,24 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
+
+namespace {
+
+std::vector<std::string> arguments;
+
+TEST(File, IsAsExpected) {
+  ASSERT_GE(arguments.size(), 3U) << "usage: compare_golden NAME FILE [REASON]";
+  std::ifstream file(arguments[2], std::ios::binary);
+  EXPECT_TRUE(file) << arguments[2] << " cannot be read";
+  harness::expect_golden(arguments[1], std::string{std::istreambuf_iterator<char>(file), {}});
+  EXPECT_EQ(arguments.size(), 3U);
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
-  class comparison : public testing::Test {
-  public:
-    explicit comparison(char **arguments) : arguments_(arguments) {}
-
-  private:
-    void TestBody() override {
-      std::ifstream file(arguments_[1], std::ios::binary);
-      EXPECT_TRUE(file) << arguments_[1] << " cannot be read";
-      harness::expect_golden(arguments_[0], std::string{std::istreambuf_iterator<char>(file), {}});
-      EXPECT_EQ(arguments_[2], nullptr);
-    }
-    char **arguments_;
-  };
   testing::InitGoogleTest(&argc, argv);
-  if (argc < 3) {
-    return 2;
-  }
-  testing::RegisterTest("File", "IsAsExpected", nullptr, nullptr, __FILE__, __LINE__,
-                        [&]() -> testing::Test * { return new comparison(argv + 1); });
+  arguments.assign(argv, argv + argc);
   return RUN_ALL_TESTS();
 }

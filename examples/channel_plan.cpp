@@ -1,6 +1,7 @@
 // Judges the channel lists of a radio, as the text that iw prints, and finds the widest clear channels.
 #include "band_picture.hpp"
 #include "iw_phy.hpp"
+#include "standard_output.hpp"
 #include "text_input.hpp"
 
 #include "ravix_types_enums.h"
@@ -436,15 +437,13 @@ int run(const options &wanted) {
     std::cerr << program << ": " << radio->name << " has no channels in that band\n";
     status = 1;
   }
-  return std::cout.flush() ? status : 1;
+  return status;
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
   options wanted;
-  if (const auto status = read_arguments({argv + 1, argv + argc}, wanted)) {
-    return *status;
-  }
-  return run(wanted);
+  const auto status = read_arguments({argv + 1, argv + argc}, wanted);
+  return end_of_output(program, status ? *status : run(wanted));
 }

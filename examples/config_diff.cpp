@@ -1,5 +1,7 @@
 // Two configurations of a device with three radios, before and after an operator's changes, and what changed between
 // them: as a daemon logs it when it is handed a new configuration.
+#include "standard_output.hpp"
+
 #include "ravix_types_cfg.h"
 #include "ravix_types_enums.h"
 #include "ravix_types_printers.hpp"
@@ -298,9 +300,7 @@ void print(std::ostream &os, const configuration &config, const configuration *r
   print_list(os, "role state", config.role_states, reference != nullptr ? &reference->role_states : nullptr);
 }
 
-} // namespace
-
-int main(int argc, char **argv) {
+int run(int argc, char **argv) {
   const std::string_view argument = argc == 2 ? argv[1] : "";
   if (argument == "-h" || argument == "--help") {
     std::cout << help;
@@ -326,5 +326,11 @@ int main(int argc, char **argv) {
     std::cerr << "config_diff: " << failed.what() << '\n';
     return 1;
   }
-  return std::cout.flush() ? 0 : 1;
+  return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  return end_of_output("config_diff", run(argc, argv));
 }

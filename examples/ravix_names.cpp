@@ -1,6 +1,8 @@
 // Every enumeration and flag set of the interface with its values and their texts, as a table or as JSON: for tools
 // that read logs or write configurations. The texts are the library's; which values have one is found by asking for
 // them.
+#include "standard_output.hpp"
+
 #include "ravix_types_enums.h"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_version.h"
@@ -195,14 +197,14 @@ int run(const std::vector<std::string_view> &arguments) {
   if (as_json) {
     std::cout << all.dump(2) << '\n';
   }
-  return std::cout.flush() ? 0 : 1;
+  return 0;
 }
 
 } // namespace
 
 int main(int argc, char **argv) {
   try {
-    return run({argv + 1, argv + argc});
+    return end_of_output("ravix_names", run({argv + 1, argv + argc}));
   } catch (const std::exception &error) {
     std::cerr << "ravix_names: " << error.what() << '\n';
     return 1;

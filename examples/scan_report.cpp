@@ -1,6 +1,7 @@
 // Takes a scan, as the text that iw prints, through the whole road of a request between two parties of the interface:
 // one asks for a scan and for its results, the other one serves it. Ends with the listing of what was found.
 #include "iw_scan.hpp"
+#include "standard_output.hpp"
 #include "text_input.hpp"
 
 #include "ravix_types_api_request.h"
@@ -222,11 +223,7 @@ int run(const options &wanted) {
     return 1;
   }
   print_scan_results(std::cout, *response->scan_results, wanted.hide_ssid);
-  std::cout << std::endl;
-  if (!std::cout) {
-    std::cerr << program << ": the listing cannot be written\n";
-    return 1;
-  }
+  std::cout << '\n';
   return problems.has_errors() ? 1 : 0;
 }
 
@@ -234,8 +231,6 @@ int run(const options &wanted) {
 
 int main(int argc, char **argv) {
   options wanted;
-  if (const auto status = read_arguments({argv + 1, argv + argc}, wanted)) {
-    return *status;
-  }
-  return run(wanted);
+  const auto status = read_arguments({argv + 1, argv + argc}, wanted);
+  return end_of_output(program, status ? *status : run(wanted));
 }

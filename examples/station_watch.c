@@ -110,11 +110,20 @@ static void receive_events(ravix_station_table_t *table) {
   on_radar_detected(&radar);
 }
 
+/* The exit status; a log that nobody has received is no success. */
+static int end_of_output(int status) {
+  if (fflush(stdout) == 0 && !ferror(stdout)) {
+    return status;
+  }
+  fputs("station_watch: standard output cannot be written\n", stderr);
+  return 1;
+}
+
 int main(int argc, char **argv) {
   if (argc > 1) {
     const bool wanted = strcmp(argv[1], "-h") == 0 || strcmp(argv[1], "--help") == 0;
     fputs(help, wanted ? stdout : stderr);
-    return wanted ? 0 : 2;
+    return end_of_output(wanted ? 0 : 2);
   }
   ravix_station_table_t *table = ravix_types_station_table_create(0);
   const uint32_t since_ac = RAVIX_WLAN_MODE_11A | RAVIX_WLAN_MODE_11N | RAVIX_WLAN_MODE_11AC;
@@ -129,5 +138,5 @@ int main(int argc, char **argv) {
     receive_events(table);
   }
   ravix_types_station_table_free(table);
-  return ready ? 0 : 1;
+  return end_of_output(ready ? 0 : 1);
 }

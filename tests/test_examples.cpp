@@ -32,8 +32,8 @@ std::string replaced(std::string text, const std::string &from, const std::strin
 // standard output interleave is up to the C library's buffers.
 int run(const std::string &command_line, std::string &output) {
   const std::string kept = testing::TempDir() + "ravix-output-" + std::to_string(getpid());
-  const std::string given = replaced("{ " RAVIX_EXAMPLE_RUN + command_line + " >" + kept + "; status=$?; cat " + kept +
-                                         "; rm " + kept + "; exit $status; } 2>&1",
+  const std::string given = replaced("{ (" RAVIX_EXAMPLE_RUN + command_line + ") >" + kept + "; status=$?; cat " +
+                                         kept + "; rm " + kept + "; exit $status; } 2>&1",
                                      "$DATA", RAVIX_EXAMPLE_DATA);
   std::FILE *pipe = popen(replaced(given, "$CASES", RAVIX_TEST_DATA).c_str(), "r"); // NOLINT(cert-env33-c): our own
   if (pipe == nullptr)

@@ -84,8 +84,6 @@ std::vector<phy> phy_reader::read() {
   if (!has_band) {
     problems_.only_error(1, line.number == 0 ? "empty, so no description of a radio"
                                              : "no description of a radio: no line \"Band 1:\", 2 or 4 with channels");
-  } else if (lines_.is_cut()) {
-    problems_.error(line.number, "the text is cut here");
   }
   return std::move(result_);
 }

@@ -49,12 +49,11 @@ constexpr feature features[] = {
     {"WMM", "u-APSD", RAVIX_CAPABILITY_UAPSD},
     {"RM enabled capabilities", "", RAVIX_CAPABILITY_RRM},
     {"Mobility Domain", "", RAVIX_CAPABILITY_FBT},
-    {"Unknown IE (54)", "", RAVIX_CAPABILITY_FBT}, // mobility domain, of versions that do not decode it
     {"Extended capabilities", "BSS Transition", RAVIX_CAPABILITY_BTM},
     {"OWE Transition Mode", "", RAVIX_CAPABILITY_OWE_TRANS},
+    {"HE 6 GHz Band capabilities", "", RAVIX_CAPABILITY_AMPDU}, // their length, which takes the place of that of HT
     {"Multi-Link", "", RAVIX_CAPABILITY_MLO},
     {"Basic Multi-Link", "", RAVIX_CAPABILITY_MLO},
-    {"Unknown Extension ID (107)", "", RAVIX_CAPABILITY_MLO}, // the multi-link element, as above
 };
 
 // Authentication suites: the names by which they are printed, and their numbers (IEEE 802.11-2020, 9.4.2.24.3), which
@@ -116,6 +115,7 @@ struct operation {
   uint32_t width_mhz = 0;         // 0: nothing, or what the elements of older standards say
   std::vector<uint32_t> segments; // channel numbers of the centres, in the order of the element
   uint16_t puncture_map = 0;
+  bool is_open = false; // its first field has been read, its last one not
 };
 
 // The channel that an operation element describes.
@@ -131,27 +131,65 @@ struct block {
   ravix_scan_entry_t entry{};
   std::string name; // for messages
   std::size_t last_line = 0;
-  std::size_t indent = 0;   // of the element headings
-  std::string_view element; // that the present line belongs to
-  std::size_t content = 0;  // lines of this element
-  bool is_closed = false;   // the lines that follow are of another network
-  bool is_refused = false;  // has been told to be unreadable
+  std::size_t indent = 0;                      // of the element headings
+  std::string_view element;                    // that the present line belongs to
+  const struct known_element *known = nullptr; // the same, if it is one of those below
+  std::size_t content = 0;                     // lines of this element
+  std::size_t cut_line = 0;                    // of the first element of which something is missing
+  std::string_view cut_element;
+  bool is_closed = false;  // the lines that follow are of another network
+  bool is_refused = false; // has been told to be unreadable
   bool has_frequency = false, has_ssid = false;
   bool ht = false, vht = false, he = false, eht = false, cck = false, ofdm = false;
-  bool ht_operates = false, vht_operates = false;
-  int ht_offset = 0; // side of the second 20 MHz channel: -1 below, 1 above
-  operation vht_operation, he_operation, eht_operation;
+  operation ht_operation, vht_operation, he_operation, eht_operation;
 };
 
-int hex_digit(char c) {
-  if (c >= '0' && c <= '9') {
-    return c - '0';
+// Elements that tell a standard by being there, or the channel, or that versions of iw print as octets under a number.
+struct known_element {
+  std::string_view name;
+  uint32_t number; // IEEE 802.11-2020, 9.4.2.1; 256 and the extension, where there is one; 0: the name is always known
+  bool block::*standard;
+  operation block::*channel;
+};
+
+constexpr uint32_t extended = 256;
+
+constexpr known_element known_elements[] = {
+    {"HT capabilities", 0, &block::ht, nullptr},
+    {"HT operation", 0, nullptr, &block::ht_operation},
+    {"VHT capabilities", 0, &block::vht, nullptr},
+    {"VHT operation", 0, nullptr, &block::vht_operation},
+    {"HE capabilities", extended + 35, &block::he, nullptr},
+    {"HE operation", extended + 36, nullptr, &block::he_operation},
+    {"HE 6 GHz Band capabilities", extended + 59, &block::he, nullptr},
+    {"EHT operation", extended + 106, nullptr, &block::eht_operation},
+    {"EHT capabilities", extended + 108, &block::eht, nullptr},
+    {"Mobility Domain", 54, nullptr, nullptr},
+    {"Multi-Link", extended + 107, nullptr, nullptr},
+};
+
+// The element of a heading, or null. The octets begin with the extension if the heading does not tell it.
+const known_element *find_element(std::string_view heading, std::string_view &octets) {
+  const auto printed = text::number(heading.substr(heading.find('(') + 1)).value_or(0) & 0xFFU;
+  uint32_t number = text::starts_with(heading, "Unknown Extension ID (") ? extended + printed
+                    : text::starts_with(heading, "Unknown IE (")         ? printed
+                                                                         : 0;
+  if (number == extended - 1) {
+    const auto extension = text::octets(text::split(octets, " "));
+    number = extended + (extension.empty() ? 0U : extension[0]);
   }
-  if (c >= 'a' && c <= 'f') {
-    return c - 'a' + 10;
-  }
-  return c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1;
+  const auto *const known =
+      std::find_if(std::begin(known_elements), std::end(known_elements), [&](const known_element &e) {
+        return number != 0 ? e.number == number : text::same(e.name, heading);
+      });
+  return known == std::end(known_elements) ? nullptr : known;
 }
+
+// Widths in MHz by their numbers in the operation elements; 0 leaves the matter to the older elements. Three bits are a
+// number, of which the third one has another meaning in HE operation.
+template <operation block::*> constexpr uint32_t widths[8] = {20, 40, 80, 160, 320};
+template <> constexpr uint32_t widths<&block::vht_operation>[8] = {0, 80, 160, 80};
+template <> constexpr uint32_t widths<&block::he_operation>[8] = {20, 40, 80, 160, 20, 40, 80, 160};
 
 // "02:00:00:00:00:01(on wlan0) -- associated". Digits that someone has masked ("xx") count as 0.
 bool read_address(std::string_view text, ravix_mac_t &out, bool &is_masked) {
@@ -159,22 +197,18 @@ bool read_address(std::string_view text, ravix_mac_t &out, bool &is_masked) {
   if (text.size() < length || text.substr(length).find_first_not_of("( ") == 0) {
     return false;
   }
-  unsigned octet = 0;
-  for (std::size_t i = 0; i < length; ++i) {
-    if (i % 3 == 2) {
-      if (text[i] != ':') {
-        return false;
-      }
-      continue;
-    }
-    const bool mask = text[i] == 'x' || text[i] == 'X' || text[i] == '*';
-    const int digit = mask ? 0 : hex_digit(text[i]);
-    if (digit < 0) {
+  std::string digits(text.substr(0, length));
+  for (char &c : digits) {
+    const bool mask = c == 'x' || c == 'X' || c == '*';
+    is_masked = is_masked || mask;
+    c = mask ? '0' : c;
+  }
+  for (std::size_t i = 0; i < RAVIX_MAC_LEN; ++i) {
+    const auto octet = text::octets(std::string_view(digits).substr(3 * i, 2));
+    if (octet.empty() || (i != 0 && digits[3 * i - 1] != ':')) {
       return false;
     }
-    is_masked = is_masked || mask;
-    octet = (octet * 16 + static_cast<unsigned>(digit)) & 0xFFU;
-    out[i / 3] = static_cast<uint8_t>(octet);
+    out[i] = octet[0];
   }
   return true;
 }
@@ -186,29 +220,30 @@ bool read_ssid(std::string_view text, ravix_ssid_t &out) {
     if (out.len == RAVIX_MAX_SSID_LEN) {
       return false;
     }
-    const bool escaped =
-        text.size() >= 4 && text.starts_with("\\x") && hex_digit(text[2]) >= 0 && hex_digit(text[3]) >= 0;
-    out.ssid[out.len++] = static_cast<uint8_t>(escaped ? hex_digit(text[2]) * 16 + hex_digit(text[3]) : text[0]);
-    text.remove_prefix(escaped ? 4 : 1);
+    const auto escaped = text.starts_with("\\x") ? text::octets(text.substr(2, 2)) : std::vector<uint8_t>{};
+    out.ssid[out.len++] = escaped.empty() ? static_cast<uint8_t>(text[0]) : escaped[0];
+    text.remove_prefix(escaped.empty() ? 1 : 4);
   }
   return true;
 }
 
+// The disabled subchannel bitmap: two octets as they stand in the frame, the lowest eight subchannels first.
+uint16_t puncture_map_at(const std::vector<uint8_t> &octets, std::size_t at) {
+  return static_cast<uint16_t>(octets[at] | octets[at + 1] << 8U);
+}
+
 // "1 (80 MHz)", "160 MHz", "3". A range, "20 or 40 MHz", leaves the matter to the older elements: 0.
-uint32_t read_width(std::string_view value, const std::vector<uint32_t> &by_code) {
-  if (text::contains(value, "MHz")) {
-    if (text::contains(value, "20 or 40")) {
-      return 0;
-    }
-    for (const auto *const width : {"320", "160", "80", "40", "20"}) {
-      if (text::contains(value, width)) {
-        return *text::number(width);
-      }
-    }
-    return 0;
+uint32_t read_width(std::string_view value, const uint32_t (&by_number)[8]) {
+  if (!text::contains(value, "MHz")) {
+    const auto number = text::number(value);
+    return number && *number < std::size(by_number) ? by_number[*number] : 0;
   }
-  const auto code = text::number(value);
-  return code && *code < by_code.size() ? by_code[*code] : 0;
+  for (const auto *const width : {"20 or 40", "320", "160", "80", "40", "20"}) {
+    if (text::contains(value, width)) {
+      return text::contains(width, "or") ? 0 : *text::number(width);
+    }
+  }
+  return 0;
 }
 
 class scan_reader {
@@ -220,7 +255,8 @@ private:
   void begin(const text::line &line);
   void heading(const text::line &line);
   void content(std::string_view key, std::string_view value);
-  void end(bool is_last);
+  void leave_element();
+  void end();
 
   void frequency(std::string_view value);
   void signal(std::string_view value);
@@ -228,11 +264,15 @@ private:
   void capability(std::string_view value);
   void rates(std::string_view value);
 
+  template <operation block::*element> void primary(std::string_view value);
   void ht_offset(std::string_view value);
-  void ht_primary(std::string_view value);
   template <operation block::*element> void width(std::string_view value);
   template <operation block::*element> void segment(std::string_view value);
   void puncturing(std::string_view value);
+  template <operation block::*element>
+  void operation_information(const std::vector<uint8_t> &octets, std::size_t at, std::size_t size);
+  void he_octets(std::string_view value);
+  void eht_octets(std::string_view value);
   void rsn_suites_of(std::string_view value);
   void rsn_capabilities(std::string_view value);
   void wpa_suites_of(std::string_view value);
@@ -248,6 +288,7 @@ private:
     std::string_view element, key; // a heading has no element
     taker take;
   };
+  static constexpr std::string_view as_octets = "octets"; // takes the place of a key where all of an element is octets
   static const key_taker takers[];
   static taker find(std::string_view element, std::string_view key);
 
@@ -268,15 +309,18 @@ const scan_reader::key_taker scan_reader::takers[] = {
     {"", "capability", &scan_reader::capability},
     {"", "Supported rates", &scan_reader::rates},
     {"", "Extended supported rates", &scan_reader::rates},
-    {"HT operation", "primary channel", &scan_reader::ht_primary},
+    {"HT operation", "primary channel", &scan_reader::primary<&block::ht_operation>},
     {"HT operation", "secondary channel offset", &scan_reader::ht_offset},
     {"VHT operation", "channel width", &scan_reader::width<&block::vht_operation>},
     {"VHT operation", "center freq", &scan_reader::segment<&block::vht_operation>},
+    {"HE operation", "primary channel", &scan_reader::primary<&block::he_operation>},
     {"HE operation", "channel width", &scan_reader::width<&block::he_operation>},
     {"HE operation", "center freq", &scan_reader::segment<&block::he_operation>},
+    {"HE operation", as_octets, &scan_reader::he_octets},
     {"EHT operation", "channel width", &scan_reader::width<&block::eht_operation>},
     {"EHT operation", "center freq", &scan_reader::segment<&block::eht_operation>},
     {"EHT operation", "disabled subchannel bitmap", &scan_reader::puncturing},
+    {"EHT operation", as_octets, &scan_reader::eht_octets},
     {"RSN", "Authentication suites", &scan_reader::rsn_suites_of},
     {"RSN", "Capabilities", &scan_reader::rsn_capabilities},
     {"WPA", "Authentication suites", &scan_reader::wpa_suites_of},
@@ -296,21 +340,22 @@ scan scan_reader::read() {
   while (lines_.next(line)) {
     line_ = line.number;
     if (line.indent == 0 && line.content.starts_with("BSS ")) {
-      end(false);
+      end();
       begin(line);
     } else if (in_block_ && line.indent == 0) {
       remark("a line that is no part of a scan, ignored: " + text::quote(line.content));
     } else if (in_block_ && !now_.is_closed) {
-      now_.last_line = line.number;
       now_.indent = now_.indent == 0 ? line.indent : now_.indent;
       if (line.indent <= now_.indent) {
+        leave_element();
         heading(line);
       } else {
         content(line.key, line.value);
       }
+      now_.last_line = line.number;
     }
   }
-  end(true);
+  end();
   if (blocks_ == 0) {
     problems_.only_error(1, line_ == 0 ? "empty, so no scan" : "not a scan: no line begins with \"BSS \"");
   }
@@ -339,22 +384,27 @@ void scan_reader::begin(const text::line &line) {
 }
 
 void scan_reader::heading(const text::line &line) {
-  now_.element = line.key;
+  auto value = line.value;
+  now_.known = find_element(line.key, value);
+  now_.element = now_.known != nullptr ? now_.known->name : line.key;
   now_.content = 0;
-  for (const auto &[name, flag] :
-       {std::pair{"HT capabilities", &block::ht}, std::pair{"VHT capabilities", &block::vht},
-        std::pair{"HE capabilities", &block::he}, std::pair{"EHT capabilities", &block::eht},
-        std::pair{"HT operation", &block::ht_operates}, std::pair{"VHT operation", &block::vht_operates}}) {
-    now_.*flag = now_.*flag || text::same(line.key, name);
+  if (now_.known != nullptr && text::starts_with(value, "<invalid")) {
+    remark(std::string(now_.element) + " is not valid as the network sends it, ignored");
+    now_.known = nullptr;
+    return;
+  }
+  if (now_.known != nullptr && now_.known->standard != nullptr) {
+    now_.*now_.known->standard = true;
   }
   for (const auto &f : features) {
-    now_.entry.capabilities |= f.line.empty() && text::same(f.element, line.key) ? f.capabilities : 0;
+    now_.entry.capabilities |= f.line.empty() && text::same(f.element, now_.element) ? f.capabilities : 0;
   }
   if (const auto take = find("", line.key)) {
-    (this->*take)(line.value);
-  } else if (!line.value.empty()) {
+    (this->*take)(value);
+  } else if (now_.known != nullptr && !text::same(now_.element, line.key)) {
+    content(as_octets, value);
+  } else if (!value.empty()) {
     // Content on the line of the heading: a list of features, or the first "key: value" of more.
-    auto value = line.value;
     const auto key = text::split(value, ": ");
     content(key, value);
   }
@@ -375,12 +425,26 @@ void scan_reader::content(std::string_view key, std::string_view value) {
   }
 }
 
+// A text that has lost lines shows it by an element without content, or with its first field and not its last one.
+void scan_reader::leave_element() {
+  if (now_.known == nullptr || now_.cut_line != 0) {
+    return;
+  }
+  const auto &[name, number, standard, channel] = *now_.known;
+  const bool is_empty = now_.content == 0 && (standard != nullptr || channel != nullptr);
+  if (is_empty || (channel != nullptr && (now_.*channel).is_open)) {
+    now_.cut_line = now_.last_line;
+    now_.cut_element = name;
+  }
+}
+
 // Completes the network. In a cut one, what has been read is listed if it tells the network's name and channel.
-void scan_reader::end(bool is_last) {
+void scan_reader::end() {
   if (!in_block_) {
     return;
   }
   in_block_ = false;
+  leave_element();
   line_ = now_.last_line;
   if (now_.is_refused) {
     return;
@@ -389,19 +453,13 @@ void scan_reader::end(bool is_last) {
     error(std::string("the block is cut: no ") + (now_.has_frequency ? "SSID" : "frequency") + ", network not listed");
     return;
   }
-  const auto band = ravix_frequency_to_radio_band(now_.entry.channel_info.primary_freq);
-  const auto is_at = [this](std::string_view element) { return text::same(now_.element, element); };
-  const bool lacks_content = now_.content == 0 && (is_at("HT capabilities") || is_at("HT operation") ||
-                                                   is_at("VHT capabilities") || is_at("VHT operation"));
-  const bool lacks_operation = (now_.ht && !now_.ht_operates) ||
-                               (is_last && ((now_.vht && !now_.vht_operates) ||
-                                            (band == RAVIX_RADIO_BAND_6GHZ && now_.he_operation.width_mhz == 0)));
-  if (lacks_content || lacks_operation || (is_last && lines_.is_cut())) {
-    error("the block is cut here, listed with what is known until then");
+  if (now_.cut_line != 0) {
+    problems_.error(now_.cut_line, now_.name + ": the block is cut in " + std::string(now_.cut_element) +
+                                       ", listed with what else is known");
   }
   now_.entry.channel_info = channel();
   now_.entry.wlan_mode = wlan_mode();
-  switch (band) {
+  switch (ravix_frequency_to_radio_band(now_.entry.channel_info.primary_freq)) {
   case RAVIX_RADIO_BAND_2GHZ:
     // VHT is not meant for this band; what makers offer there is its 256-QAM.
     now_.entry.capabilities |= RAVIX_CAPABILITY_2GHZ | (now_.vht ? RAVIX_CAPABILITY_11N_2G_256QAM : 0);
@@ -417,17 +475,22 @@ void scan_reader::end(bool is_last) {
 }
 
 void scan_reader::frequency(std::string_view value) {
+  if (now_.has_frequency) {
+    error("a second frequency, so the line \"BSS ...\" of another network is missing, which is not listed");
+    now_.is_closed = true;
+  }
   if (now_.has_frequency || now_.is_refused) {
-    if (now_.has_frequency) {
-      error("a second frequency, so the line \"BSS ...\" of another network is missing, which is not listed");
-      now_.is_closed = true;
-    }
     return;
   }
   const auto khz = text::megahertz(value);
   if (!khz || !ravix_frequency_is_primary(*khz)) {
+    constexpr uint32_t lowest_band = 700'000; // 802.11ah; less than that is what is left of a number
     now_.is_refused = true;
-    error("no 2.4, 5 or 6 GHz channel at frequency " + text::quote(value) + ", network not listed");
+    if (khz && *khz >= lowest_band && ravix_frequency_to_radio_band(*khz) == 0) {
+      remark("frequency " + text::quote(value) + " is in none of the bands 2.4, 5 and 6 GHz, network not listed");
+    } else {
+      error("no 2.4, 5 or 6 GHz channel at frequency " + text::quote(value) + ", network not listed");
+    }
     return;
   }
   now_.has_frequency = true;
@@ -481,30 +544,84 @@ void scan_reader::rates(std::string_view value) {
   }
 }
 
-void scan_reader::ht_offset(std::string_view value) {
-  now_.ht_offset = text::starts_with(value, "above") ? 1 : text::starts_with(value, "below") ? -1 : 0;
-}
-
-void scan_reader::ht_primary(std::string_view value) {
+template <operation block::*element> void scan_reader::primary(std::string_view value) {
+  now_.*element = operation{};
+  (now_.*element).is_open = true;
   const auto channel = ravix_frequency_to_channel(now_.entry.channel_info.primary_freq);
   if (now_.has_frequency && text::number(value) != channel) {
-    remark("HT operation has primary channel " + text::quote(value) + ", but the frequency is that of channel " +
-           std::to_string(channel) + ", which is taken");
+    remark(std::string(now_.element) + " has primary channel " + text::quote(value) +
+           ", but the frequency is that of channel " + std::to_string(channel) + ", which is taken");
+  }
+}
+
+// The side of the second 20 MHz channel.
+void scan_reader::ht_offset(std::string_view value) {
+  const bool is_above = text::starts_with(value, "above");
+  const bool is_below = text::starts_with(value, "below");
+  const auto channel = ravix_frequency_to_channel(now_.entry.channel_info.primary_freq);
+  now_.ht_operation = operation{};
+  now_.ht_operation.is_open = !is_above && !is_below && !text::starts_with(value, "no secondary");
+  if (is_above || is_below) {
+    now_.ht_operation.width_mhz = 40;
+    now_.ht_operation.segments = {is_above ? channel + 2 : channel - std::min(channel, 2U)};
   }
 }
 
 template <operation block::*element> void scan_reader::width(std::string_view value) {
-  static const std::vector<uint32_t> vht_codes{0, 80, 160, 80}, he_codes{20, 40, 80, 160, 320};
   now_.*element = operation{};
-  (now_.*element).width_mhz = read_width(value, element == &block::vht_operation ? vht_codes : he_codes);
+  (now_.*element).width_mhz = read_width(value, widths<element>);
+  (now_.*element).is_open = true;
 }
 
 template <operation block::*element> void scan_reader::segment(std::string_view value) {
-  (now_.*element).segments.push_back(text::number(value).value_or(0));
+  auto &segments = (now_.*element).segments;
+  segments.push_back(text::number(value).value_or(0));
+  (now_.*element).is_open = segments.size() < 2;
 }
 
 void scan_reader::puncturing(std::string_view value) {
-  now_.eht_operation.puncture_map = static_cast<uint16_t>(text::number(value).value_or(0) & 0xFFFFU);
+  const auto octets = text::octets(value);
+  now_.eht_operation.is_open = octets.size() < 2;
+  now_.eht_operation.puncture_map = octets.size() < 2 ? uint16_t{0} : puncture_map_at(octets, 0);
+}
+
+// The operation information that begins at an octet: width, both centres and, of EHT, what is punctured. Its size is 0
+// where there is none. An element that ends before stays open.
+template <operation block::*element>
+void scan_reader::operation_information(const std::vector<uint8_t> &octets, std::size_t at, std::size_t size) {
+  auto &read = now_.*element;
+  read = operation{};
+  read.is_open = octets.size() < at + size;
+  if (!read.is_open && size != 0) {
+    read.width_mhz = widths<element>[octets[at] & 7U];
+    read.segments = {octets[at + 1], octets[at + 2]};
+    read.puncture_map = size < 5 ? uint16_t{0} : puncture_map_at(octets, at + 3);
+  }
+}
+
+// HE Operation element (IEEE 802.11ax-2021, 9.4.2.249), of which the information on 6 GHz tells the width.
+void scan_reader::he_octets(std::string_view value) {
+  const auto octets = text::octets(value);
+  std::size_t at = 6; // behind parameters, BSS color and basic rates
+  const bool has_information = octets.size() >= at && (octets[2] & 0x02U) != 0;
+  if (has_information) {
+    at += (octets[1] & 0x40U) != 0 ? 3 : 0; // VHT operation information
+    at += (octets[1] & 0x80U) != 0 ? 1 : 0; // number of networks at the same place
+    if (octets.size() > at) {
+      primary<&block::he_operation>(std::to_string(octets[at]));
+    }
+    ++at;
+  }
+  operation_information<&block::he_operation>(octets, at, has_information ? 4 : 0);
+}
+
+// EHT Operation element (IEEE 802.11be-2024).
+void scan_reader::eht_octets(std::string_view value) {
+  const auto octets = text::octets(value);
+  constexpr std::size_t at = 5; // behind parameters and basic rates
+  const bool has_information = octets.size() >= at && (octets[0] & 0x01U) != 0;
+  const std::size_t size = (octets.empty() || (octets[0] & 0x02U) == 0) ? 3 : 5;
+  operation_information<&block::eht_operation>(octets, at, has_information ? size : 0);
 }
 
 void scan_reader::rsn_suites_of(std::string_view value) {
@@ -535,7 +652,9 @@ ravix_channel_info_t scan_reader::channel() {
   std::vector<claim> claims;
   const auto add = [&](const char *element, const operation &o) {
     auto width = o.width_mhz;
-    auto center = o.segments.empty() ? 0 : o.segments[0];
+    auto center = width == 20          ? ravix_frequency_to_channel(primary) // some leave it out of the element
+                  : o.segments.empty() ? 0
+                                       : o.segments[0];
     const auto second = o.segments.size() < 2 ? 0 : o.segments[1];
     if (second != 0 && width == 320) {
       center = second;
@@ -554,9 +673,9 @@ ravix_channel_info_t scan_reader::channel() {
   add("EHT operation", now_.eht_operation);
   add("HE operation", now_.he_operation);
   add("VHT operation", now_.vht_operation);
-  if (now_.ht_offset != 0) {
-    claims.push_back(
-        {"HT operation", RAVIX_CHANNEL_WIDTH_40, now_.ht_offset > 0 ? primary + 10000 : primary - 10000, 0});
+  add("HT operation", now_.ht_operation);
+  if (claims.empty() && band == RAVIX_RADIO_BAND_6GHZ && now_.cut_line == 0) {
+    remark(R"(this iw does not tell the width, 20 MHz is taken; a newer one does, or "iw -u")");
   }
   std::stable_sort(claims.begin(), claims.end(), [](const claim &a, const claim &b) { return a.width > b.width; });
   ravix_channel_info_t made;

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <utility>
 
 namespace text {
 
@@ -16,7 +17,8 @@ namespace {
 
 constexpr std::size_t most_input = std::size_t{64} << 20U;
 constexpr std::size_t most_line = 8192; // the tools' longest lines, dumps of unknown elements, have less than 1000
-constexpr std::size_t most_problems = 20;
+constexpr std::size_t most_kept = 100;  // of a kind
+constexpr std::size_t most_shown = 20;
 constexpr std::string_view blanks = " \t\r\v\f";
 
 char lower(char c) {
@@ -26,30 +28,43 @@ bool same_letter(char a, char b) {
   return lower(a) == lower(b);
 }
 
+int hex_digit(char c) {
+  if (c >= '0' && c <= '9') {
+    return c - '0';
+  }
+  const char letter = lower(c);
+  return letter >= 'a' && letter <= 'f' ? letter - 'a' + 10 : -1;
+}
+
 std::string_view without_bullet(std::string_view text) {
   return text.starts_with("* ") ? trim(text.substr(2)) : text;
 }
 
 } // namespace
 
-bool problems::has_errors() const {
-  return std::any_of(list_.begin(), list_.end(), [](const problem &p) { return p.is_error; });
+void problems::add(problem p) {
+  auto &count = p.is_error ? errors_ : remarks_;
+  if (count++ < most_kept) {
+    list_.push_back(std::move(p));
+  }
 }
 
 void problems::print(const char *program, const std::string &input_name) const {
-  auto ordered = list_;
-  std::stable_sort(ordered.begin(), ordered.end(), [](const problem &a, const problem &b) { return a.line < b.line; });
-  const auto shown = std::min(ordered.size(), most_problems);
-  for (std::size_t i = 0; i < shown; ++i) {
-    const auto &p = ordered[i];
+  auto shown = list_;
+  std::stable_sort(shown.begin(), shown.end(), [](const auto &a, const auto &b) {
+    return std::pair(b.is_error, a.line) < std::pair(a.is_error, b.line);
+  });
+  shown.resize(std::min(shown.size(), most_shown));
+  std::stable_sort(shown.begin(), shown.end(), [](const auto &a, const auto &b) { return a.line < b.line; });
+  for (const auto &p : shown) {
     std::cerr << program << ": " << (input_name == "-" ? "standard input" : input_name);
     if (p.line != 0) {
       std::cerr << ':' << p.line;
     }
     std::cerr << ": " << (p.is_error ? "" : "note: ") << p.message << '\n';
   }
-  if (shown < ordered.size()) {
-    std::cerr << program << ": " << ordered.size() - shown << " more messages of this kind are not shown\n";
+  if (const auto others = errors_ + remarks_ - shown.size(); others != 0) {
+    std::cerr << program << ": " << others << " more messages of this kind are not shown\n";
   }
 }
 
@@ -98,6 +113,9 @@ bool line_reader::next(line &out) {
     if (out.content.empty()) {
       continue;
     }
+    if (at_ > text_.size()) {
+      problems_.remark(number_, "the last line has no line end: it may be cut");
+    }
     out.indent = whole.find_first_not_of(blanks);
     const auto colon = out.content.find(": ");
     out.key = out.content.substr(0, colon);
@@ -113,25 +131,6 @@ bool line_reader::next(line &out) {
     return true;
   }
   return false;
-}
-
-bool line_reader::is_cut() const {
-  if (text_.empty() || text_.ends_with('\n')) {
-    return false;
-  }
-  const auto looks_like = [](std::string_view a, std::string_view b) {
-    const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [&](char x, char y) { return x == y || (is_digit(x) && is_digit(y)); });
-  };
-  auto rest = text_;
-  const auto last = trim(text_.substr(text_.rfind('\n') + 1));
-  while (rest.find('\n') != std::string_view::npos) {
-    if (looks_like(trim(split(rest, "\n")), last)) {
-      return false;
-    }
-  }
-  return true;
 }
 
 std::string_view trim(std::string_view text) {
@@ -222,6 +221,17 @@ std::optional<double> decimal(std::string_view text) {
   }
   const double value = (negative ? -digits : digits) / unit;
   return any && value > -1e6 && value < 1e6 ? std::optional(value) : std::nullopt;
+}
+
+std::vector<uint8_t> octets(std::string_view text) {
+  std::vector<uint8_t> out;
+  text.remove_prefix(starts_with(text, "0x") ? 2 : 0);
+  while (text.size() >= 2 && hex_digit(text[0]) >= 0 && hex_digit(text[1]) >= 0) {
+    out.push_back(static_cast<uint8_t>(hex_digit(text[0]) * 16 + hex_digit(text[1])));
+    text.remove_prefix(2);
+    text.remove_prefix(text.starts_with(' ') ? 1 : 0);
+  }
+  return out;
 }
 
 std::string quote(std::string_view text) {

@@ -17,20 +17,27 @@ struct problem {
   std::string message;
 };
 
+// Keeps the first hundred errors and the first hundred remarks, and counts the others: a text may have millions.
 class problems {
 public:
-  void error(std::size_t line, std::string message) { list_.push_back({line, true, std::move(message)}); }
-  void remark(std::size_t line, std::string message) { list_.push_back({line, false, std::move(message)}); }
+  void error(std::size_t line, std::string message) { add({line, true, std::move(message)}); }
+  void remark(std::size_t line, std::string message) { add({line, false, std::move(message)}); }
   // For an input that is something else altogether: what was said about its lines is of no use.
-  void only_error(std::size_t line, std::string message) { list_.assign(1, {line, true, std::move(message)}); }
+  void only_error(std::size_t line, std::string message) {
+    *this = {};
+    error(line, std::move(message));
+  }
   const std::vector<problem> &list() const { return list_; }
-  bool has_errors() const;
+  bool has_errors() const { return errors_ != 0; }
 
-  // One line each on standard error, in the order of the input, no more than a screenful.
+  // One line each on standard error, in the order of the input, no more than a screenful, and errors before remarks.
   void print(const char *program, const std::string &input_name) const;
 
 private:
+  void add(problem p);
+
   std::vector<problem> list_;
+  std::size_t errors_ = 0, remarks_ = 0;
 };
 
 // Reads a file, or standard input for "-". On failure returns the reason, and `content` holds what came before it.
@@ -46,14 +53,12 @@ struct line {
   std::string_view key, value; // before and after the first ": " (or ":" at the end); without one, all is key
 };
 
-// Goes through the lines that are not empty. Reports those that no tool prints, and leaves them out.
+// Goes through the lines that are not empty. Reports those that no tool prints, and leaves them out. A last line
+// without a line end may be cut, which is remarked.
 class line_reader {
 public:
   line_reader(std::string_view text, problems &problems) : text_(text), problems_(problems) {}
   bool next(line &out);
-  // Whether the text ends within a line. A text that has merely lost its last line end does not, as far as that can be
-  // known: another line of it looks just like the last one.
-  bool is_cut() const;
 
 private:
   std::string_view text_;
@@ -77,6 +82,8 @@ std::optional<uint32_t> number(std::string_view text);
 std::optional<uint32_t> megahertz(std::string_view text);
 // The decimal number at the beginning, which may have a sign and decimals.
 std::optional<double> decimal(std::string_view text);
+// Octets in hexadecimal, with or without blanks between them: "0x029b", "02 9b". They end where two digits are missing.
+std::vector<uint8_t> octets(std::string_view text);
 // For a message: cut to a readable length, with escapes for what cannot be printed.
 std::string quote(std::string_view text);
 

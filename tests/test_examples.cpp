@@ -71,6 +71,21 @@ std::string told(const text::problems &problems) {
   return out;
 }
 
+TEST(Problems, AreKeptUpToAHundredOfAKindAndErrorsShownBeforeRemarks) {
+  text::problems problems;
+  for (std::size_t line = 1; line <= 150; ++line)
+    problems.remark(line, "doubt");
+  EXPECT_FALSE(problems.has_errors());
+  problems.error(151, "fault");
+  EXPECT_EQ(problems.list().size(), 101U);
+  testing::internal::CaptureStderr();
+  problems.print("reader", "file");
+  const std::string shown = testing::internal::GetCapturedStderr();
+  EXPECT_TRUE(shown.starts_with("reader: file:1: note: doubt\n"));
+  EXPECT_TRUE(shown.ends_with("reader: file:19: note: doubt\nreader: file:151: fault\n"
+                              "reader: 131 more messages of this kind are not shown\n"));
+}
+
 std::string networks(const iw::scan &scan) {
   std::string out;
   for (const auto &network : scan.networks) {

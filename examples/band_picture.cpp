@@ -41,13 +41,14 @@ constexpr look primary{"#1f4e79", "#ffffff", "PRI", "in use, primary channel"};
 constexpr look punctured{"url(#punctured)", "#000000", "PUNCT.", "punctured"};
 constexpr look radar{"url(#radar)", "#000000", "RADAR", "radar found"};
 constexpr look interference{"url(#interference)", "#000000", "INTERF.", "interference found"};
+constexpr look no_ir{"#e6e6e6", "#000000", "NO IR", "no start here (no IR)"};
 constexpr look disabled{"#ffffff", "#767676", "", "disabled"};
 constexpr look dfs{"#ffffff", "#000000", "DFS", "radar detection (DFS)"};
 constexpr look plain{"#ffffff", "#000000", "", "not in use"};
 
 struct box {
   int x, y;
-  uint32_t frequency;
+  uint32_t frequency, number;
   const look *shown;
   bool is_dfs;
 };
@@ -72,7 +73,7 @@ const look &look_of(const iw::phy_channel &channel, const ravix_channel_entry_t 
   if ((state & RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND) != 0) {
     return interference;
   }
-  return channel.has_radar_detection ? dfs : plain;
+  return channel.has_no_ir ? no_ir : channel.has_radar_detection ? dfs : plain;
 }
 
 std::string escaped(std::string_view text) {
@@ -145,7 +146,7 @@ std::vector<box> place(const iw::phy_band &band, const ravix_channel_list_t &lis
     const ravix_channel_entry_t *const begin = list.data;
     const auto *const end = begin + list.count;
     const auto *const entry = std::find_if(begin, end, [&](const auto &e) { return e.frequency == channel.frequency; });
-    boxes.push_back({margin + column * box_step, y + bracket_height, channel.frequency,
+    boxes.push_back({margin + column * box_step, y + bracket_height, channel.frequency, channel.number,
                      &look_of(channel, entry == end || channel.is_disabled ? nullptr : entry),
                      channel.has_radar_detection});
   }
@@ -162,7 +163,7 @@ void draw_box(canvas &out, const box &b) {
   const std::string style = std::string("text-anchor=\"middle\"") +
                             (is_light ? " paint-order=\"stroke\" stroke=\"#ffffff\" stroke-width=\"3\"" : "");
   const std::string bold = style + " font-weight=\"bold\"";
-  const auto channel = std::to_string(ravix_frequency_to_channel(b.frequency));
+  const auto channel = std::to_string(b.number);
   out.text(middle, b.y + 14, 10, shown.text_color, word, bold);
   out.text(middle, b.y + 31, 17, shown.text_color, channel, bold);
   out.text(middle, b.y + 45, 12, shown.text_color, std::to_string(b.frequency / 1000), style);
@@ -202,7 +203,8 @@ void draw_bracket(canvas &out, const std::vector<box> &boxes, const ravix_channe
 // Explains the looks that occur. Returns where it ends.
 int draw_legend(canvas &out, const std::vector<box> &boxes, int top) {
   int count = 0;
-  for (const auto *const shown : {&plain, &dfs, &disabled, &primary, &in_use, &punctured, &radar, &interference}) {
+  for (const auto *const shown :
+       {&plain, &dfs, &no_ir, &disabled, &primary, &in_use, &punctured, &radar, &interference}) {
     const bool occurs = std::any_of(boxes.begin(), boxes.end(),
                                     [&](const box &b) { return b.shown == shown || (shown == &dfs && b.is_dfs); });
     if (occurs) {

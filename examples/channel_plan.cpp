@@ -27,7 +27,7 @@ constexpr const char *help = R"(usage: channel_plan [OPTION...] [FILE]
 
 Reads what "iw phy" (or "iw list") prints about a radio from FILE, from standard input if FILE is "-", or from the
 sample that comes with the program. Checks the channel list of each band, and finds the widest clear channel around each
-primary channel, or around the one that is asked for.
+primary channel, or around the one that is asked for. If a list is refused, it sets aside what a list may not have.
 
   --primary MHZ             plan with this primary channel; without it, all are gone through
   --max-width MHZ           look for channels up to this width: 20, 40, 80, 160 or 320
@@ -38,6 +38,7 @@ primary channel, or around the one that is asked for.
   --mark-interference MHZ   for example 5260-5320,5500
   --mark-checked MHZ        checked for radar, and free of it
   --puncture MHZ            leave these 20 MHz channels out of the channel in use (802.11be)
+  --allow-no-ir             use channels that are marked "no IR" too, where no access point may start
   --band 2.4|5|6            this band only
   --phy NAME                the radio, if FILE describes several
   --list                    print the channel list too
@@ -59,6 +60,7 @@ struct options {
   bool ext_high = false;
   uint32_t avoid = RAVIX_CHANNEL_STATE_RADAR_FOUND | RAVIX_CHANNEL_STATE_INTERFERENCE_FOUND;
   std::vector<range> radar, interference, checked, punctured;
+  bool allow_no_ir = false;
   uint8_t band = 0;
   std::string phy;
   bool print_list = false;
@@ -171,6 +173,8 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
     }
     if (argument == "--list") {
       out.print_list = true;
+    } else if (argument == "--allow-no-ir") {
+      out.allow_no_ir = true;
     } else if (std::find(std::begin(with_value), std::end(with_value), argument) != std::end(with_value)) {
       if (++i == arguments.size()) {
         return wrong_argument(argument + " needs a value");
@@ -243,16 +247,29 @@ uint16_t puncture_map(const ravix_channel_info_t &channel, const std::vector<ran
   return static_cast<uint16_t>(map);
 }
 
-// The widest channel that is clear, of which the radio has all 20 MHz channels, and that may be punctured as wanted.
-std::optional<ravix_channel_info_t> find_widest(const ravix_channel_list_t &list, uint32_t primary,
-                                                const options &wanted) {
-  const iw::channel_list_ptr copy(ravix_types_channel_list_clone(&list));
+bool has_no_ir(const iw::phy_band &band, uint32_t frequency) {
+  return std::any_of(band.channels.begin(), band.channels.end(),
+                     [=](const auto &c) { return c.frequency == frequency && !c.is_disabled && c.has_no_ir; });
+}
+
+// The widest channel that is clear, of which the radio has all 20 MHz channels and may start on them, and that may be
+// punctured as wanted.
+std::optional<ravix_channel_info_t> find_widest(const iw::phy_band &band, const ravix_channel_list_t &list,
+                                                uint32_t primary, const options &wanted) {
+  const iw::channel_list_ptr copy(ravix_types_channel_list_create(0));
   if (!copy) {
     return std::nullopt;
   }
-  for (uint32_t i = 0; i < copy->count; ++i) {
-    // What is punctured is not used, so it need not be clear.
-    copy->data[i].state = is_in(wanted.punctured, copy->data[i].frequency) ? 0 : copy->data[i].state;
+  for (uint32_t i = 0; i < list.count; ++i) {
+    auto entry = list.data[i];
+    if (is_in(wanted.punctured, entry.frequency)) {
+      entry.state = 0; // what is punctured is not used, so it need not be clear
+    } else if (has_no_ir(band, entry.frequency) && !wanted.allow_no_ir) {
+      continue; // a channel that has no entry here is not found
+    }
+    if (ravix_types_channel_list_add_entry(copy.get(), &entry) != 0) {
+      return std::nullopt;
+    }
   }
   uint16_t width = wanted.max_width == 0 ? uint16_t{RAVIX_CHANNEL_WIDTH_320} : wanted.max_width;
   while (width != 0) {
@@ -294,45 +311,91 @@ void use(ravix_channel_list_t &list, const ravix_channel_info_t &channel, const 
   }
 }
 
-std::string channel_line(uint32_t primary, const std::optional<ravix_channel_info_t> &found) {
+std::string channel_line(uint32_t primary, const std::optional<ravix_channel_info_t> &found,
+                         const char *otherwise = "no clear channel") {
   std::string line = ravix_str_wifi_freq(primary);
   const std::string width = found ? ravix_str_channel_width(found->channel_width) : "-";
   line += "  " + std::string(7 - std::min<std::size_t>(7, width.size()), ' ') + width + "  ";
-  return line + (found ? ravix_str_channel_info(&*found) : "no clear channel");
+  return line + (found ? ravix_str_channel_info(&*found) : otherwise);
 }
 
 struct plan {
   bool is_good = true;
+  iw::channel_list_ptr list; // null if memory is exhausted
   std::optional<ravix_channel_info_t> found;
 };
 
-plan plan_band(const iw::phy_band &band, ravix_channel_list_t &list, const options &wanted) {
+// What remains of a band whose list is refused, without the channels that no list may have. False if that is all of it.
+bool set_others_aside(iw::phy_band &band) {
+  const auto is_below = [](const auto &a, const auto &b) { return a.frequency < b.frequency; };
+  const bool is_ascending = std::is_sorted(band.channels.begin(), band.channels.end(), is_below);
+  const auto others = iw::set_aside(band);
+  if (!others.empty()) {
+    std::cout << "set aside:";
+    for (const auto &channel : others) {
+      std::cout << (&channel == &others.front() ? " " : ", ") << channel.frequency / 1000 << " MHz [" << channel.number
+                << ']';
+    }
+    std::cout << "\nlist of the others ";
+  } else if (!is_ascending) {
+    std::cout << "list in ascending order ";
+  }
+  return !others.empty() || !is_ascending;
+}
+
+// The list of a band with the marks of the arguments; null if memory is exhausted.
+iw::channel_list_ptr marked_list(const iw::phy_band &band, const options &wanted) {
+  auto list = iw::make_channel_list(band);
+  if (list) {
+    mark(*list, wanted);
+  }
+  return list;
+}
+
+plan plan_band(iw::phy_band &band, const options &wanted) {
   const auto count = [&](bool iw::phy_channel::*flag) {
     return std::count_if(band.channels.begin(), band.channels.end(), [=](const auto &c) { return c.*flag; });
   };
   std::cout << ravix_str_radio_band(band.radio_band) << ": " << band.channels.size() << " channels, "
             << count(&iw::phy_channel::is_disabled) << " disabled, " << count(&iw::phy_channel::has_radar_detection)
-            << " with radar detection, " << count(&iw::phy_channel::is_passive) << " passive, up to "
+            << " with radar detection, " << count(&iw::phy_channel::has_no_ir) << " with no IR, up to "
             << ravix_str_channel_width(ravix_channel_capabilities_to_channel_width(band.widths)) << ": list ";
-  if (!is_accepted(list)) {
-    return {false, std::nullopt};
-  }
   plan result;
+  result.list = marked_list(band, wanted);
+  result.is_good = result.list && is_accepted(*result.list);
+  if (result.list && !result.is_good) {
+    if (!set_others_aside(band)) {
+      return result;
+    }
+    result.list = marked_list(band, wanted);
+    if (result.list && !is_accepted(*result.list)) {
+      return result;
+    }
+  }
+  if (!result.list) {
+    return result;
+  }
+  auto &list = *result.list;
   if (wanted.primary == 0) {
     std::cout << "PRIMARY         WIDEST   CHANNEL_INFO\n";
     for (uint32_t i = 0; i < list.count; ++i) {
       const auto primary = list.data[i].frequency;
-      std::cout << channel_line(primary, find_widest(list, primary, wanted)) << '\n';
+      const bool is_marked = has_no_ir(band, primary);
+      if (is_marked && !wanted.allow_no_ir) {
+        std::cout << channel_line(primary, std::nullopt, "no IR") << '\n';
+        continue;
+      }
+      std::cout << channel_line(primary, find_widest(band, list, primary, wanted)) << (is_marked ? "  no IR" : "")
+                << '\n';
     }
   } else {
-    result.found = find_widest(list, wanted.primary, wanted);
+    result.found = find_widest(band, list, wanted.primary, wanted);
     std::cout << channel_line(wanted.primary, result.found) << '\n';
-    result.is_good = result.found.has_value();
     if (result.found) {
       use(list, *result.found, wanted);
       std::cout << "list with this channel in use ";
-      result.is_good = is_accepted(list);
     }
+    result.is_good = result.found && is_accepted(list) && result.is_good;
   }
   if (wanted.print_list) {
     std::cout << list << '\n';
@@ -340,8 +403,7 @@ plan plan_band(const iw::phy_band &band, ravix_channel_list_t &list, const optio
   return result;
 }
 
-int draw(const iw::phy &radio, const iw::phy_band &band, const ravix_channel_list_t &list, const plan &planned,
-         const options &wanted) {
+int draw(const iw::phy &radio, const iw::phy_band &band, const plan &planned, const options &wanted) {
   std::string subtitle =
       band.radio_band == RAVIX_RADIO_BAND_2GHZ ? "channels overlap, 5 MHz apart" : "channels that the radio has";
   if (wanted.primary != 0) {
@@ -349,7 +411,7 @@ int draw(const iw::phy &radio, const iw::phy_band &band, const ravix_channel_lis
                (planned.found ? ", widest clear channel" : ", no clear channel");
   }
   std::ofstream file(wanted.svg, std::ios::binary);
-  file << picture::draw_band(radio.name + ": " + ravix_str_radio_band(band.radio_band), subtitle, band, list,
+  file << picture::draw_band(radio.name + ": " + ravix_str_radio_band(band.radio_band), subtitle, band, *planned.list,
                              planned.found ? &*planned.found : nullptr);
   file.close();
   if (!file) {
@@ -384,9 +446,11 @@ bool has_named_channels(const iw::phy &radio, const options &wanted) {
   }
   if (wanted.primary != 0) {
     const auto primary = find({wanted.primary, wanted.primary});
+    const std::string at = std::string(" the channel at ") + ravix_str_wifi_freq(wanted.primary);
     if (primary == all.end() || primary->is_disabled) {
-      is_missing(std::string(primary == all.end() ? " has no channel at " : " has disabled the channel at ") +
-                 ravix_str_wifi_freq(wanted.primary));
+      is_missing((primary == all.end() ? " does not have" : " has disabled") + at);
+    } else if (primary->has_no_ir && !wanted.allow_no_ir) {
+      is_missing(" has no IR on" + at + ": no access point may start there (see --allow-no-ir)");
     }
   }
   return has_all;
@@ -400,7 +464,7 @@ int run(const options &wanted) {
     problems.print(program, wanted.input);
     return 1;
   }
-  const auto radios = iw::read_phys(content, problems);
+  auto radios = iw::read_phys(content, problems);
   problems.print(program, wanted.input);
   int status = problems.has_errors() ? 1 : 0;
   const auto radio = std::find_if(radios.begin(), radios.end(),
@@ -416,20 +480,18 @@ int run(const options &wanted) {
   }
   const auto wanted_band = wanted.primary == 0 ? wanted.band : ravix_frequency_to_radio_band(wanted.primary);
   bool is_done = false;
-  for (const auto &band : radio->bands) {
+  for (auto &band : radio->bands) {
     if (wanted_band != 0 && band.radio_band != wanted_band) {
       continue;
     }
     std::cout << (is_done ? "\n" : "");
     is_done = true;
-    const auto list = iw::make_channel_list(band);
-    if (!list) {
+    const auto planned = plan_band(band, wanted);
+    if (!planned.list) {
       return 1;
     }
-    mark(*list, wanted);
-    const auto planned = plan_band(band, *list, wanted);
     status = planned.is_good ? status : 1;
-    if (!wanted.svg.empty() && draw(*radio, band, *list, planned, wanted) != 0) {
+    if (!wanted.svg.empty() && draw(*radio, band, planned, wanted) != 0) {
       status = 1;
     }
   }

@@ -45,6 +45,12 @@ constexpr uint8_t bands_by_number[] = {0, RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAN
 // would be worked on for hours.
 constexpr std::size_t most_channels = 256;
 
+// Channels 182 to 196, which no radio of ours uses, count from 4 GHz.
+bool is_number_of(uint32_t number, uint32_t frequency) {
+  const bool is_4_9_ghz = number >= 182 && number <= 196 && frequency == 4'000'000 + 5000 * number;
+  return is_4_9_ghz || number == ravix_frequency_to_channel(frequency);
+}
+
 class phy_reader {
 public:
   phy_reader(std::string_view text, problems &problems) : lines_(text, problems), problems_(problems) {}
@@ -127,10 +133,6 @@ bool phy_reader::channel(const text::line &line) {
     problems_.error(line.number, "a channel without its number: " + text::quote(line.content));
     return true;
   }
-  if (*number != ravix_frequency_to_channel(*frequency)) {
-    problems_.remark(line.number,
-                     "channel number and frequency do not agree, the frequency is taken: " + text::quote(line.content));
-  }
   if (band_->channels.size() == most_channels) {
     if (!is_overfull_) {
       problems_.error(line.number, band_name_ + " has more than " + std::to_string(most_channels) +
@@ -139,8 +141,14 @@ bool phy_reader::channel(const text::line &line) {
     is_overfull_ = true;
     return true;
   }
-  band_->channels.emplace_back().frequency = *frequency;
+  auto &channel = band_->channels.emplace_back();
+  channel.frequency = *frequency;
+  channel.number = *number;
   flags(line, words);
+  if (!channel.is_disabled && !is_number_of(*number, *frequency)) {
+    problems_.remark(line.number,
+                     "channel number and frequency do not agree, the frequency is taken: " + text::quote(line.content));
+  }
   return true;
 }
 
@@ -164,7 +172,7 @@ void phy_reader::flags(const text::line &line, std::string_view words) {
       } else if (text::same(flag, "radar detection")) {
         channel.has_radar_detection = true;
       } else if (text::same(flag, "no IR") || text::same(flag, "passive scanning")) {
-        channel.is_passive = true;
+        channel.has_no_ir = true;
       } else if (power) {
         problems_.error(line.number, "a power that is not in dBm, taken as not known: " + text::quote(line.content));
       }
@@ -190,7 +198,7 @@ void phy_reader::detail(const text::line &line) {
   } else if (text::same(line.key, "Radar detection")) {
     channel.has_radar_detection = true;
   } else if (text::same(line.key, "No IR")) {
-    channel.is_passive = true;
+    channel.has_no_ir = true;
   } else if (text::same(line.key, "DFS state")) {
     channel.has_radar_detection = true;
     channel.state = text::starts_with(line.value, "available")     ? RAVIX_CHANNEL_STATE_DFS_CLEAR
@@ -217,6 +225,22 @@ void phy_reader::detail(const text::line &line) {
 
 std::vector<phy> read_phys(std::string_view text, problems &problems) {
   return phy_reader(text, problems).read();
+}
+
+std::vector<phy_channel> set_aside(phy_band &band) {
+  auto &channels = band.channels;
+  std::stable_sort(channels.begin(), channels.end(), [](const auto &a, const auto &b) {
+    return std::pair(a.frequency, a.is_disabled) < std::pair(b.frequency, b.is_disabled);
+  });
+  std::vector<phy_channel> kept, others;
+  for (const auto &channel : channels) {
+    const bool is_fit = ravix_frequency_is_primary(channel.frequency) &&
+                        ravix_frequency_to_radio_band(channel.frequency) == band.radio_band &&
+                        (kept.empty() || kept.back().frequency != channel.frequency);
+    (channel.is_disabled || is_fit ? kept : others).push_back(channel);
+  }
+  channels = std::move(kept);
+  return others;
 }
 
 bool has_all_of(const ravix_channel_list_t &list, const ravix_channel_info_t &channel) {

@@ -15,13 +15,14 @@ namespace iw {
 
 struct phy_channel {
   uint32_t frequency = 0; // kHz
+  uint32_t number = 0;
   int16_t max_power = RAVIX_POWER_INVALID;
   uint32_t widths = 0; // RAVIX_CHANNEL_CAP_HT...; 0: those of the band
   uint32_t state = 0;  // RAVIX_CHANNEL_STATE_...
   bool is_disabled = false;
   bool has_radar_detection = false;
   bool has_long_check = false; // of ten minutes instead of one: weather radars
-  bool is_passive = false;     // no own transmission before a beacon has been heard
+  bool has_no_ir = false;      // "no IR": no transmission of one's own accord, so no access point may start there
 };
 
 struct phy_band {
@@ -46,6 +47,10 @@ using channel_list_ptr = std::unique_ptr<ravix_channel_list_t, channel_list_free
 // The channels of a band that are not disabled, in the order of the radio. A channel is capable of a width if the radio
 // is, and if all of the wide channel can be used. Null if memory is exhausted.
 channel_list_ptr make_channel_list(const phy_band &band);
+
+// Puts the channels of a band in ascending order and takes out those that no list may have: what is no primary channel
+// of the band, and what is in it already. Returns these.
+std::vector<phy_channel> set_aside(phy_band &band);
 
 // Whether the list has every 20 MHz channel of a channel description.
 bool has_all_of(const ravix_channel_list_t &list, const ravix_channel_info_t &channel);

@@ -3,14 +3,39 @@
 // - Whatever the text, each band of each radio has channels, and powers that a radio can have.
 // - A width that an entry of a list is capable of is one of a channel: a search for the widest channel around a primary
 //   channel finds one.
-// - A text without a band is told, each problem names a line of the text, and its message has no control characters.
+// - What is set aside and what remains are together the band; the list of what remains is not refused for a frequency.
+// - A text without a band is told, each problem names a line of the text, its message has no control characters, and
+//   there are no more than two hundred.
 #include "fuzz.hpp"
 
 #include "iw_phy.hpp"
 
 #include "ravix_types_util.h"
+#include "ravix_types_validation.h"
 
 using fuzz::require;
+
+namespace {
+
+void check_set_aside(iw::phy_band band) {
+  const auto size = band.channels.size();
+  const auto others = iw::set_aside(band);
+  require(size == band.channels.size() + others.size(), "no channel is lost");
+  const auto list = iw::make_channel_list(band);
+  if (!list || list->count == 0) {
+    return;
+  }
+  ravix_string_table_t violations{};
+  ravix_validate_channel_list(list.get(), &violations);
+  for (uint32_t i = 0; i < violations.count; ++i) {
+    const std::string rule = violations.data[i];
+    require(rule != "INVALID_FREQ" && rule != "RADIO_MISMATCH" && rule != "DOUBLE_FREQUENCY" && rule != "INVALID_ORDER",
+            "what remains is ascending and of the band");
+  }
+  ravix_types_string_table_clear(&violations);
+}
+
+} // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   const std::string text(reinterpret_cast<const char *>(data), size);
@@ -29,6 +54,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
         const int code = ravix_get_max_clear_channel_info(list.get(), entry.frequency, 0, false, 0, &found);
         require(code == 0 || !ravix_frequency_is_primary(entry.frequency), "a channel is found");
       }
+      check_set_aside(band);
     }
   }
   fuzz::check_problems(problems, text, !has_band);

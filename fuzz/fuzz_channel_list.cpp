@@ -64,11 +64,11 @@ bool is_clear(const ravix_channel_list_t &list, const ravix_channel_info_t &chan
 }
 
 void check_search(const ravix_channel_list_t &list, uint32_t primary, uint32_t mask, uint16_t most, bool ext_high) {
-  harness::captured_log log;
+  fuzz::counted_log log;
   ravix_channel_info_t found;
   const ravix_channel_info_t none{};
   const int code = ravix_get_max_clear_channel_info(&list, primary, mask, ext_high, most, &found);
-  require(log.take().empty() == (code == 0 || code == -2), "lines of a search");
+  require((log.take() == 0) == (code == 0 || code == -2), "lines of a search");
   require((code != 0) == (ravix_types_channel_info_compare(&found, &none) == 0), "what is not found is zero");
   if (code == 0) {
     require(ravix_channel_info_is_valid(&found) && is_clear(list, found, mask), "the channel found is clear");
@@ -106,7 +106,7 @@ bool has_channel_in_use(const entry_list &entries, uint32_t primary) {
 } // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
-  harness::captured_log log;
+  fuzz::counted_log log;
   FuzzedDataProvider in(data, size);
   const auto mask = in.ConsumeIntegral<uint16_t>();
   const auto most = in.ConsumeIntegralInRange<uint16_t>(0, 64);
@@ -116,12 +116,15 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   const ravix_channel_list_t list{static_cast<uint32_t>(entries.size()), entries.data()};
   ravix_string_table_t names{};
   const bool accepted = ravix_validate_channel_list(&list, &names);
-  const std::size_t lines = log.take().size();
+  const std::size_t lines = log.take();
   require(accepted == (lines == 0) && accepted == (names.count == 0) && lines >= names.count, "lines of the validator");
   require(std::set<std::string>(names.data, names.data + names.count).size() == names.count, "each rule is named once");
   ravix_types_string_table_clear(&names);
+  bool has_tried_other = false; // each of them fails with the same lines
   for (const auto &entry : before) {
-    check_search(list, entry.frequency, mask, most, ext_high);
+    if (ravix_frequency_is_primary(entry.frequency) || !std::exchange(has_tried_other, true)) {
+      check_search(list, entry.frequency, mask, most, ext_high);
+    }
     if (accepted && (entry.state & RAVIX_CHANNEL_STATE_PRI_CHAN) != 0 && entry.frequency != 2484000) {
       require(has_channel_in_use(entries, entry.frequency), "the channel in use of an accepted list");
     }

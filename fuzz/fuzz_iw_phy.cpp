@@ -44,7 +44,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   for (const auto &radio : iw::read_phys(text, problems)) {
     for (const auto &band : radio.bands) {
       has_band = true;
-      const harness::captured_log log;
+      const fuzz::counted_log log;
       const auto list = iw::make_channel_list(band);
       require(list && !band.channels.empty() && list->count <= band.channels.size(), "a band has channels");
       for (uint32_t i = 0; i < list->count; ++i) {

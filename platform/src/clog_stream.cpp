@@ -12,7 +12,9 @@ int get_default_clogger_chunking(const std::string & /*logger_name*/) {
 
 class ClogStreamBuf::Lines : public std::streambuf {
 public:
-  explicit Lines(std::unique_ptr<ClogAdapterBase> adapter) : adapter_(std::move(adapter)) {}
+  explicit Lines(std::unique_ptr<ClogAdapterBase> adapter) : adapter_(std::move(adapter)) {
+    line_.reserve(256); // more than most lines have
+  }
 
 protected:
   int_type overflow(int_type character) override {

@@ -50,7 +50,7 @@ inline constexpr std::string_view secret_mark = "ZZZZ";
 // Knows the library's blocks while it lives, and fails requests on demand; for one thread.
 class heap {
 public:
-  using tag = std::pair<std::string, int>; // source path and line of a request
+  using tag = std::pair<std::string_view, int>; // source path and line of a request, a constant of the sources
 
   heap() { slab_host_set_allocator(&hooks_); }
   ~heap() { slab_host_set_allocator(nullptr); }

@@ -76,8 +76,7 @@ def table(times, wanted):
         if margin is not None:
             judged.append((f"{last} / {against.replace('_', ' ')}", theirs and theirs / ours, margin))
     met = sum(margin >= 1 for _, _, margin in judged)
-    print(f"{met} of {len(judged)} targets met")
-    return judged
+    return judged, f"{met} of {len(judged)} targets met"
 
 
 def draw_speeds(axes, judged):
@@ -137,9 +136,9 @@ def draw_growth(axes, times):
 
 def main(results, wanted, picture):
     context, times = medians(results)
-    judged = table(times, list(targets(wanted)))
+    judged, met = table(times, list(targets(wanted)))
     load = " ".join(f"{each:.1f}" for each in context["load_avg"])
-    print(f"{context['date'][:10]}, {context['num_cpus']} processors of {context['mhz_per_cpu']} MHz, load {load}")
+    print(f"{met}; {context['num_cpus']} processors of {context['mhz_per_cpu']} MHz, load {load}")
     figure, (left, right) = plt.subplots(1, 2, figsize=(10.5, 7.5), width_ratios=(1, 1.05), layout="constrained")
     draw_speeds(left, judged)
     draw_growth(right, times)

@@ -142,12 +142,17 @@ need_musl_compiler() {
   export ZIG_GLOBAL_CACHE_DIR=$PWD/build-zig/cache ZIG_LOCAL_CACHE_DIR=$PWD/build-zig/cache
 }
 
-# check_on <preset> [ctest argument...]: builds everything for another machine and runs all tests, which run the examples.
-check_on() {
-  local preset=$1
+# run_tests <preset> [ctest argument...]: builds everything and runs all tests, which run the examples. $passed is how many
+# have passed.
+run_tests() {
+  local preset=$1 log
   shift
+  passed=
   configure "$preset"
-  build "$preset"
+  build "$preset" || return
   step "Running the tests of '$preset'"
-  ctest --test-dir "$(build_dir "$preset")" --output-on-failure -j "$(jobs_wanted)" "$@"
+  log=$(build_dir "$preset")/tests.log
+  ctest --test-dir "$(build_dir "$preset")" --output-on-failure -j "$(jobs_wanted)" "$@" | tee "$log" || return
+  # shellcheck disable=SC2034 # for the script that sources this
+  passed=$(sed -nE 's/^100% tests passed, 0 tests failed out of ([0-9]+)$/\1 of \1 tests pass/p' "$log")
 }

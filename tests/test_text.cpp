@@ -123,10 +123,10 @@ const formatters flags = {
 template <class Value> formatters::value_type of_octets(const char *what, const char *(*format)(const Value *)) {
   return {what, [format](std::uint64_t value) {
             std::mt19937_64 random(value);
-            std::array<std::uint64_t, 6> octets{};
-            std::ranges::generate(octets, std::ref(random));
-            *reinterpret_cast<std::uint8_t *>(octets.data()) &= value % 2 == 0 ? 3 : UINT8_MAX;
-            return text_by(format, reinterpret_cast<const Value *>(octets.data()));
+            alignas(Value) unsigned char octets[48];
+            std::ranges::generate(octets, [&] { return static_cast<unsigned char>(random()); });
+            octets[0] &= value % 2 == 0 ? 3 : UINT8_MAX;
+            return text_by(format, reinterpret_cast<const Value *>(octets));
           }};
 }
 const formatters records = {of_octets("mac", ravix_str_mac),

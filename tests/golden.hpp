@@ -41,7 +41,7 @@ std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> written
 class golden_sections {
 public:
   void add(std::string_view title, std::string_view text) {
-    collected_.append(collected_.empty() ? "--- " : "\n--- ").append(title).append("\n").append(text).append("\n");
+    collected_.append("--- ").append(title).append("\n").append(text).append("\n");
   }
   void expect(const std::string &name) const;
 

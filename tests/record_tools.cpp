@@ -32,8 +32,7 @@ std::uint32_t randomness::up_to(std::uint32_t most) {
 }
 
 void randomness::bytes(void *memory, std::size_t size) {
-  std::generate_n(static_cast<unsigned char *>(memory), size,
-                  [&] { return static_cast<unsigned char>(kind == variety::tame ? 1 + up_to(9) : up_to(255)); });
+  std::generate_n(static_cast<unsigned char *>(memory), size, [&] { return static_cast<unsigned char>(up_to(255)); });
 }
 
 void randomness::word(char *to, std::size_t longest) {
@@ -62,12 +61,6 @@ template <class T> void fill_value(T &value, randomness &random) {
     if (!random.absent()) {
       value = operations<std::remove_pointer_t<T>>::create();
       fill_value(*value, random);
-    }
-  } else if constexpr (std::is_integral_v<T>) {
-    if (random.kind == variety::tame) {
-      value = static_cast<T>(1 + random.up_to(9));
-    } else {
-      random.bytes(&value, sizeof value);
     }
   } else {
     random.bytes(&value, sizeof value);
@@ -223,8 +216,8 @@ int compare_as(const zel::ravix::tagged<Tag, First, Second> &field, const R &a, 
 }
 
 // Filled and compared member by member.
-field_type plain_field(const void *kind, const char *name, bool is_compared, std::vector<field_type::member> members) {
-  field_type row{kind, name, is_compared, std::move(members), {}, {}};
+field_type plain_field(const char *name, bool is_compared, std::vector<field_type::member> members) {
+  field_type row{name, is_compared, std::move(members), {}, {}};
   row.fill = [list = row.members](void *r, randomness &random) {
     for (const auto &[offset, type] : list) {
       type->fill(static_cast<char *>(r) + offset, random);
@@ -250,7 +243,7 @@ template <class Kind, class R> field_type field_of(const Kind &field, const R &e
     const auto offset = reinterpret_cast<const char *>(&member) - reinterpret_cast<const char *>(&empty);
     members.push_back({static_cast<std::size_t>(offset), &value_of<std::remove_cvref_t<decltype(member)>>()});
   });
-  field_type row = plain_field(&field, field.name, !uncompared<Kind, R>, std::move(members));
+  field_type row = plain_field(field.name, !uncompared<Kind, R>, std::move(members));
   if constexpr (requires(R & r, randomness & random) { fill_as(field, r, random); }) {
     row.fill = [&field](void *r, randomness &random) { fill_as(field, *static_cast<R *>(r), random); };
   }

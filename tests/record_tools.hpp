@@ -20,10 +20,9 @@
 
 namespace harness {
 
-// What random records are like: some of what may be absent is; nothing is; they break every rule that a caller can
-// break without a bad pointer (lengths beyond the capacity, texts without end, counts without an array); or their
-// numbers and octets are small, so that most enumerated values have names.
-enum class variety { usual, full, hostile, tame };
+// What random records are like: some of what may be absent is; nothing is; or they break every rule that a caller can
+// break without a bad pointer (lengths beyond the capacity, texts without end, counts without an array).
+enum class variety { usual, full, hostile };
 
 class randomness {
 public:
@@ -69,7 +68,6 @@ struct field_type {
     std::size_t offset;
     const value_type *type;
   };
-  const void *kind; // its object in the field list
   std::string name;
   bool is_compared;
   std::vector<member> members;
@@ -182,17 +180,6 @@ template <class R> std::string difference(const R &a, const R &b) {
 }
 template <class R> std::string name_of() {
   return type_of(typeid(R)).name;
-}
-
-// A random value of a field that is empty.
-template <class Kind, class R> void fill(const Kind &field, R &r, randomness &random) {
-  for (const field_type &row : type_of(typeid(R)).fields) {
-    row.kind == &field ? row.fill(&r, random) : void();
-  }
-}
-
-template <class T> void fill_table(T &table, std::uint32_t count, randomness &random) {
-  type_of(typeid(T)).fill_table(&table, count, random);
 }
 
 template <class R> struct sample : any_sample {

@@ -60,7 +60,7 @@ TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
 }
 
 // The golden file has records by their octets.
-TEST(CommonValues, CompareAsRecorded) {
+TEST(CommonValues, CompareAsWritten) {
   harness::expect_answers("common_orders", [&](const std::string &call) {
     std::istringstream words(call);
     std::string name;

@@ -108,6 +108,17 @@ TEST(Specimens, PrintAsWritten) {
   sections.expect("specimens");
 }
 
+TEST(ScanListing, IsMadeOfItsTableAndThatOfItsEntries) {
+  for (const bool hide_ssid : {false, true}) {
+    const auto shown = [&](auto print, const auto &what) {
+      return printed_by([&](std::ostream &stream) { print(stream, what, hide_ssid); });
+    };
+    const std::string listed = shown(print_scan_table, scan_results.scan_table);
+    EXPECT_TRUE(shown(print_scan_results, scan_results).ends_with("\nScan table:\n" + listed));
+    EXPECT_TRUE(listed.ends_with("\n[2]: " + shown(print_scan_entry, heard[2])));
+  }
+}
+
 TEST(Specimens, HaveAValueInEachFieldOfEachRecord) {
   std::set<std::string> missing;
   for (const harness::record_type *type : harness::record_types()) {

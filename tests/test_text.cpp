@@ -170,7 +170,7 @@ std::string answer(const std::string &call) {
                                   : text_by(ravix_str_ssid, given(&ssid), formatter == "ssid_hex");
 }
 
-TEST(Texts, AreAsRecorded) {
+TEST(Texts, AreAsWritten) {
   const harness::heap heap;
   harness::expect_answers("texts", answer);
   EXPECT_EQ(0U, heap.requests());

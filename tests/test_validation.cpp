@@ -155,7 +155,7 @@ TEST(StateFlags, ExcludeEachOtherAsThePageSays) {
   EXPECT_NE(told.find("[ ] is set on non DFS channel!"), std::string::npos) << "the reserved flag, which has no name";
 }
 
-TEST(ChannelList, IsJudgedAsRecorded) {
+TEST(ChannelList, IsJudgedAsWritten) {
   harness::expect_answers("channel_lists", [](const std::string &text) {
     const std::string names = violated(spelled(text));
     return names.empty() ? "accepted" : "refused: " + names;

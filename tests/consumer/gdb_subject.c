@@ -1,4 +1,6 @@
 /* Records to look at in gdb. */
+#include "specimens.h"
+
 #include <ravix_types.h>
 
 #include <string.h>
@@ -47,6 +49,8 @@ int main(void) {
   look(&radar);
   look(role);
   look(event);
+  look(&home_network.security.auth_servers);
+  look(&element_table);
   ravix_cfg_role_free(role);
   ravix_types_event_scan_results_free(event);
   return 0;

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <iterator>
 #include <numeric>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -216,6 +217,11 @@ TEST(Failures, OfCopiesAreToldInnermostFirst) {
   add("home_network", home_network);
   add("home_state", home_state);
   sections.expect("copy_failures");
+  std::set<std::string> sources; // of all requests
+  std::ranges::for_each(heap.requested(), [&](const auto &tag) { sources.insert(tag.first); });
+  EXPECT_EQ(sources,
+            (std::set<std::string>{"src/ravix_types_cfg", "src/ravix_types_common", "src/ravix_types_generic_simple",
+                                   "src/ravix_types_generic_table", "src/ravix_types_sta", "tests"}));
 }
 
 } // namespace

@@ -256,7 +256,7 @@ bool has_no_ir(const iw::phy_band &band, uint32_t frequency) {
 // punctured as wanted.
 std::optional<ravix_channel_info_t> find_widest(const iw::phy_band &band, const ravix_channel_list_t &list,
                                                 uint32_t primary, const options &wanted) {
-  const iw::channel_list_ptr copy(ravix_types_channel_list_create(0));
+  const auto copy = ravix::create<ravix_channel_list_t>();
   if (!copy) {
     return std::nullopt;
   }
@@ -321,7 +321,7 @@ std::string channel_line(uint32_t primary, const std::optional<ravix_channel_inf
 
 struct plan {
   bool is_good = true;
-  iw::channel_list_ptr list; // null if memory is exhausted
+  ravix::handle<ravix_channel_list_t> list; // null if memory is exhausted
   std::optional<ravix_channel_info_t> found;
 };
 
@@ -344,7 +344,7 @@ bool set_others_aside(iw::phy_band &band) {
 }
 
 // The list of a band with the marks of the arguments; null if memory is exhausted.
-iw::channel_list_ptr marked_list(const iw::phy_band &band, const options &wanted) {
+ravix::handle<ravix_channel_list_t> marked_list(const iw::phy_band &band, const options &wanted) {
   auto list = iw::make_channel_list(band);
   if (list) {
     mark(*list, wanted);

@@ -4,6 +4,7 @@
 
 #include "ravix_types_cfg.h"
 #include "ravix_types_enums.h"
+#include "ravix_types_handles.hpp"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_str_convert.h"
 
@@ -12,7 +13,6 @@
 #include <exception>
 #include <initializer_list>
 #include <iostream>
-#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -30,22 +30,13 @@ an operator would change, and prints it before, after, and what changed.
   -h, --help    this text
 )";
 
-template <auto free_record> struct releaser {
-  template <class record> void operator()(record *r) const { free_record(r); }
-};
-using global_ptr = std::unique_ptr<ravix_cfg_global_settings_t, releaser<ravix_cfg_global_settings_free>>;
-using hardware_ptr = std::unique_ptr<ravix_cfg_hardware_static_t, releaser<ravix_cfg_hw_free>>;
-using radio_ptr = std::unique_ptr<ravix_cfg_radio_static_t, releaser<ravix_cfg_radio_free>>;
-using role_ptr = std::unique_ptr<ravix_cfg_role_static_t, releaser<ravix_cfg_role_free>>;
-using role_state_ptr = std::unique_ptr<ravix_cfg_role_dynamic_t, releaser<ravix_cfg_role_dynamic_free>>;
-
 // Records find each other by identifier, so the configuration is a few lists of them.
 struct configuration {
-  global_ptr global;
-  std::vector<hardware_ptr> hardware;
-  std::vector<radio_ptr> radios;
-  std::vector<role_ptr> roles;
-  std::vector<role_state_ptr> role_states;
+  ravix::handle<ravix_cfg_global_settings_t> global;
+  std::vector<ravix::handle<ravix_cfg_hardware_static_t>> hardware;
+  std::vector<ravix::handle<ravix_cfg_radio_static_t>> radios;
+  std::vector<ravix::handle<ravix_cfg_role_static_t>> roles;
+  std::vector<ravix::handle<ravix_cfg_role_dynamic_t>> role_states;
 };
 
 // The library has logged the reason of a null record or a code other than 0.
@@ -118,8 +109,9 @@ constexpr radio_plan radio_plans[] = {
 };
 
 // A role on a radio, without what its operating mode asks for.
-role_ptr make_role(int32_t id, const radio_plan &radio, uint8_t op_mode, uint8_t security) {
-  role_ptr role(made(ravix_cfg_role_create()));
+ravix::handle<ravix_cfg_role_static_t> make_role(int32_t id, const radio_plan &radio, uint8_t op_mode,
+                                                 uint8_t security) {
+  ravix::handle<ravix_cfg_role_static_t> role(made(ravix_cfg_role_create()));
   role->id = id;
   role->radio_id = radio.id;
   role->enabled = true;
@@ -134,8 +126,9 @@ role_ptr make_role(int32_t id, const radio_plan &radio, uint8_t op_mode, uint8_t
   return role;
 }
 
-role_ptr make_ap(int32_t id, const radio_plan &radio, uint8_t op_mode, uint8_t security, std::string_view ssid) {
-  role_ptr role = make_role(id, radio, op_mode, security);
+ravix::handle<ravix_cfg_role_static_t> make_ap(int32_t id, const radio_plan &radio, uint8_t op_mode, uint8_t security,
+                                               std::string_view ssid) {
+  ravix::handle<ravix_cfg_role_static_t> role = make_role(id, radio, op_mode, security);
   role->config_ap = made(ravix_cfg_role_config_ap_create());
   set_ssid(role->config_ap->ssid, ssid);
   role->config_ap->ssid_set = true;
@@ -143,8 +136,9 @@ role_ptr make_ap(int32_t id, const radio_plan &radio, uint8_t op_mode, uint8_t s
 }
 
 // What a home access point announces, and the multi-link device that it is a link of.
-role_state_ptr make_home_state(const ravix_cfg_role_static_t &role, std::initializer_list<int32_t> links) {
-  role_state_ptr state(made(ravix_cfg_role_dynamic_create()));
+ravix::handle<ravix_cfg_role_dynamic_t> make_home_state(const ravix_cfg_role_static_t &role,
+                                                        std::initializer_list<int32_t> links) {
+  ravix::handle<ravix_cfg_role_dynamic_t> state(made(ravix_cfg_role_dynamic_create()));
   state->id = role.id;
   state->enabled = true;
   state->mac[0] = 0x02;
@@ -207,7 +201,8 @@ configuration make_configuration() {
 
   for (const radio_plan &plan : radio_plans) { // the home network: on every radio, under the radio's number
     const uint8_t security = plan.band == RAVIX_RADIO_BAND_6GHZ ? RAVIX_SECURITY_WPA3PSK : RAVIX_SECURITY_WPA2_WPA3;
-    role_ptr home = make_ap(plan.id, plan, RAVIX_ROLE_OPMODE_AP_HOME, security, "harbour-home");
+    ravix::handle<ravix_cfg_role_static_t> home =
+        make_ap(plan.id, plan, RAVIX_ROLE_OPMODE_AP_HOME, security, "harbour-home");
     set_key(home->security.key, "eleven grey herons");
     home->security.wps.enable = plan.band != RAVIX_RADIO_BAND_6GHZ;
     ravix_uuid_from_str("2a7e1b54-93c0-4d1f-8e66-020000000001", home->security.wps.uuid);
@@ -218,13 +213,14 @@ configuration make_configuration() {
     config.roles.push_back(std::move(home));
   }
 
-  role_ptr guest = make_ap(4, radio_plans[0], RAVIX_ROLE_OPMODE_AP_GUEST, RAVIX_SECURITY_WPA2PSK, "harbour-guest");
+  ravix::handle<ravix_cfg_role_static_t> guest =
+      make_ap(4, radio_plans[0], RAVIX_ROLE_OPMODE_AP_GUEST, RAVIX_SECURITY_WPA2PSK, "harbour-guest");
   set_key(guest->security.key, "welcome on board");
   guest->config_ap->user_isolation_enabled = true;
   guest->config_ap->time_control = {true, 240, false};
   config.roles.push_back(std::move(guest));
 
-  role_ptr hotspot =
+  ravix::handle<ravix_cfg_role_static_t> hotspot =
       make_ap(5, radio_plans[1], RAVIX_ROLE_OPMODE_AP_HOTSPOT, RAVIX_SECURITY_WPA2ENT, "harbour-hotspot");
   add_radius_server(hotspot->security.auth_servers, 1812, "tide and time");
   add_radius_server(hotspot->security.acct_servers, 1813, "tide and time");
@@ -233,7 +229,8 @@ configuration make_configuration() {
   hotspot->config_ap->access_control.limits_min_client_rssi = -80;
   config.roles.push_back(std::move(hotspot));
 
-  role_ptr uplink = make_role(6, radio_plans[1], RAVIX_ROLE_OPMODE_REPEATER, RAVIX_SECURITY_WPA3PSK);
+  ravix::handle<ravix_cfg_role_static_t> uplink =
+      make_role(6, radio_plans[1], RAVIX_ROLE_OPMODE_REPEATER, RAVIX_SECURITY_WPA3PSK);
   set_key(uplink->security.key, "lighthouse keeper");
   uplink->config_sta = made(ravix_cfg_role_config_sta_create());
   uplink->config_sta->uplink_configured = true;
@@ -254,13 +251,13 @@ template <class pointer, class Clone> std::vector<pointer> cloned(const std::vec
 }
 
 configuration clone(const configuration &config) {
-  return {global_ptr(made(ravix_cfg_global_settings_clone(config.global.get()))),
+  return {ravix::handle<ravix_cfg_global_settings_t>(made(ravix_cfg_global_settings_clone(config.global.get()))),
           cloned(config.hardware, ravix_cfg_hw_clone), cloned(config.radios, ravix_cfg_radio_clone),
           cloned(config.roles, ravix_cfg_role_clone), cloned(config.role_states, ravix_cfg_role_dynamic_clone)};
 }
 
 void change(configuration &config) {
-  for (const role_ptr &role : config.roles) {
+  for (const ravix::handle<ravix_cfg_role_static_t> &role : config.roles) {
     switch (role->op_mode) {
     case RAVIX_ROLE_OPMODE_AP_HOME: // a new name and passphrase, and one more address to refuse
       set_ssid(role->config_ap->ssid, "lighthouse");

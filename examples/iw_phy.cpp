@@ -253,8 +253,8 @@ bool has_all_of(const ravix_channel_list_t &list, const ravix_channel_info_t &ch
   return true;
 }
 
-channel_list_ptr make_channel_list(const phy_band &band) {
-  channel_list_ptr list(ravix_types_channel_list_create(0));
+ravix::handle<ravix_channel_list_t> make_channel_list(const phy_band &band) {
+  auto list = ravix::create<ravix_channel_list_t>();
   for (const auto &channel : band.channels) {
     if (channel.is_disabled) {
       continue;
@@ -269,7 +269,7 @@ channel_list_ptr make_channel_list(const phy_band &band) {
       // Until something else is known, a check for radar comes before the first use.
       entry.state = channel.state != 0 ? channel.state : RAVIX_CHANNEL_STATE_PRECAC_TODO;
     }
-    if (!list || ravix_types_channel_list_add_entry(list.get(), &entry) != 0) {
+    if (!list || ravix::add(*list, entry) != 0) {
       return nullptr;
     }
   }

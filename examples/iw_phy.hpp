@@ -3,10 +3,9 @@
 
 #include "text_input.hpp"
 
-#include "ravix_types_radio_env.h"
+#include "ravix_types_handles.hpp"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,14 +38,9 @@ struct phy {
 // Reads all radios of the text, of each the bands of 2.4, 5 and 6 GHz.
 std::vector<phy> read_phys(std::string_view text, text::problems &problems);
 
-struct channel_list_free {
-  void operator()(ravix_channel_list_t *list) const { ravix_types_channel_list_free(list); }
-};
-using channel_list_ptr = std::unique_ptr<ravix_channel_list_t, channel_list_free>;
-
 // The channels of a band that are not disabled, in the order of the radio. A channel is capable of a width if the radio
 // is, and if all of the wide channel can be used. Null if memory is exhausted.
-channel_list_ptr make_channel_list(const phy_band &band);
+ravix::handle<ravix_channel_list_t> make_channel_list(const phy_band &band);
 
 // Puts the channels of a band in ascending order and takes out those that no list may have: what is no primary channel
 // of the band, and what is in it already. Returns these.

@@ -6,6 +6,7 @@
 
 #include "ravix_types_api_request.h"
 #include "ravix_types_enums.h"
+#include "ravix_types_handles.hpp"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
@@ -14,7 +15,6 @@
 #include <chrono>
 #include <cstring>
 #include <iostream>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,13 +41,6 @@ Exit status: 0 if all was read; 1 if something could not be read, which is said 
 that could be read is listed); 2 for a wrong argument.
 )";
 
-template <auto free_record> struct releaser {
-  template <class record> void operator()(record *r) const { free_record(r); }
-};
-using request_ptr = std::unique_ptr<ravix_start_scan_request_t, releaser<ravix_types_start_scan_request_free>>;
-using response_ptr =
-    std::unique_ptr<ravix_get_scan_results_response_t, releaser<ravix_types_get_scan_results_response_free>>;
-
 struct options {
   std::string input;
   std::vector<uint32_t> frequencies; // kHz
@@ -57,8 +50,8 @@ struct options {
 };
 
 // The party that asks: for all channels, unless it is told which.
-request_ptr make_request(const options &wanted) {
-  request_ptr request(ravix_types_start_scan_request_create());
+ravix::handle<ravix_start_scan_request_t> make_request(const options &wanted) {
+  auto request = ravix::create<ravix_start_scan_request_t>();
   if (!request) {
     return nullptr;
   }
@@ -100,8 +93,8 @@ public:
   }
 
   // The response belongs to the caller; null if memory is exhausted.
-  response_ptr scan_results(const ravix_get_scan_results_request_t &request) const {
-    response_ptr response(ravix_types_get_scan_results_response_create());
+  ravix::handle<ravix_get_scan_results_response_t> scan_results(const ravix_get_scan_results_request_t &request) const {
+    auto response = ravix::create<ravix_get_scan_results_response_t>();
     if (!response) {
       return nullptr;
     }
@@ -142,7 +135,7 @@ private:
   }
 
   iw::scan found_;
-  request_ptr request_;
+  ravix::handle<ravix_start_scan_request_t> request_;
   std::chrono::milliseconds scan_time_{};
 };
 

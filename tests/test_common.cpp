@@ -47,6 +47,34 @@ template <auto Member> void expect_ended(const zel::ravix::bounded_text<Member> 
   }
 }
 
+TEST(Handles, OwnCopyAndListWhatTheyHold) {
+  static_assert(sizeof(ravix::handle<ravix_ssid_table_t>) == sizeof(void *));
+  const harness::heap heap;
+  const std::size_t before = heap.live();
+  {
+    const auto names = ravix::create<ravix_ssid_table_t>();
+    const ravix_ssid_t guest{5, "guest"}, too_long{RAVIX_MAX_SSID_LEN + 1, ""};
+    EXPECT_EQ(ravix::add(*names, guest), 0);
+    EXPECT_EQ(ravix::add(*names, too_long), -22);
+    EXPECT_EQ(ravix::add(*names, names->data[0]), 0) << "an element of the table itself";
+    const auto copied = ravix::clone(*names);
+    ravix_types_ssid_clear(&names->data[1]);
+    EXPECT_EQ(ravix::entries(*names).size(), 2U);
+    std::string seen;
+    for (const ravix_ssid_t &name : ravix::entries(*copied)) {
+      seen += ravix_str_ssid(&name, true);
+    }
+    EXPECT_EQ(seen, "'guest' (len=5)'guest' (len=5)");
+    EXPECT_GT(ravix::compare(*copied, *names), 0);
+    EXPECT_EQ(ravix::copy(*names, *copied), 0);
+    EXPECT_EQ(ravix::compare(*copied, *names), 0);
+    EXPECT_EQ(ravix::create<ravix_station_history_t>(3)->table.count, 3U);
+    const ravix_ssid_table_t hollow{7, nullptr};
+    EXPECT_TRUE(ravix::entries(hollow).empty()) << "a count without an array";
+  }
+  EXPECT_EQ(heap.live(), before);
+}
+
 TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
   int texts = 0;
   harness::for_all_records([&]<class R>() {
@@ -218,7 +246,7 @@ TEST(Failures, OfCopiesAreToldInnermostFirst) {
   add("home_state", home_state);
   sections.expect("copy_failures");
   std::set<std::string> sources; // of all requests
-  std::ranges::for_each(heap.requested(), [&](const auto &tag) { sources.insert(tag.first); });
+  std::ranges::for_each(heap.requested(), [&](const auto &tag) { sources.emplace(tag.first); });
   EXPECT_EQ(sources,
             (std::set<std::string>{"src/ravix_types_cfg", "src/ravix_types_common", "src/ravix_types_generic_simple",
                                    "src/ravix_types_generic_table", "src/ravix_types_sta", "tests"}));

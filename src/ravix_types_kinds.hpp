@@ -144,7 +144,7 @@ template <auto Length, auto Octets> struct counted_octets : flat_kind<> {
     trim(src, dest);
     return {};
   }
-  // Most are trimmed already, and to look costs less than to write: an add of an entry is a fifth faster.
+  // Most are trimmed already, and to look costs less than to write.
   static void trim(const R &src, R &dest) {
     const std::size_t used = src.*Length;
     if (std::memcmp(&(src.*Octets)[used], zeros.data(), size - used) != 0) [[unlikely]] {

@@ -45,8 +45,9 @@ template <class R> bool accepts_fields(const R &src) {
   return all_fields<R>([&](const auto &field) { return field.accepts(src); });
 }
 
-// Empties what lies behind the values of a copy. Each kind looks at `src` for that: `dest` has just been written in a few
-// wide stores, and to read it octet by octet would wait for them, which takes several times as long as all the rest.
+// Empties what lies behind the values of a copy. Each kind looks at `src` for that: `dest` has just been written in a
+// few wide stores, and to read it octet by octet would wait for them, which takes several times as long as all the
+// rest.
 template <class R> void trim_fields(const R &src, R &dest) {
   for_each_field<R>([&](const auto &field) { field.trim(src, dest); });
 }

@@ -28,9 +28,7 @@ class json {
 public:
   explicit json(std::string_view brackets, std::string_view separator = ", ")
       : text_(1, brackets[0]), separator_(separator), end_(brackets[1]) {}
-  void add(const std::string &item) {
-    text_ += (text_.size() > 1 ? separator_ : "") + item;
-  }
+  void add(const std::string &item) { text_ += (text_.size() > 1 ? separator_ : "") + item; }
   void add(std::string_view key, const std::string &value) { add(quoted(key) + ": " + value); }
   std::string text() const { return text_ + end_; }
 

@@ -119,6 +119,8 @@ template <class T> [[nodiscard]] int copy(const T &source, T &destination) noexc
 }
 
 /** Orders two records or tables.
+ *  @param a a record or table
+ *  @param b another of the same type
  *  @return negative, 0 or positive; only the sign counts */
 template <class T> [[nodiscard]] int compare(const T &a, const T &b) noexcept {
   return operations<T>::compare(&a, &b);
@@ -136,11 +138,15 @@ template <class Table> [[nodiscard]] int add(Table &table, const element<Table> 
 }
 
 #if __cplusplus >= 202002L
-/** The elements of a table; none of one without an array, whatever its count says. Valid until the table changes. */
+/** The elements of a table; none of one without an array, whatever its count says.
+ *  @param table the table
+ *  @return its elements, valid until the table changes */
 template <class Table> [[nodiscard]] std::span<element<Table>> entries(Table &table) noexcept {
   return {table.data, table.data != nullptr ? std::size_t{table.count} : 0};
 }
-/** As above, of a table that is not changed. */
+/** As above, of a table that is not changed.
+ *  @param table the table
+ *  @return its elements, valid until the table changes */
 template <class Table> [[nodiscard]] std::span<const element<Table>> entries(const Table &table) noexcept {
   return {table.data, table.data != nullptr ? std::size_t{table.count} : 0};
 }
@@ -155,7 +161,9 @@ template <class E> struct entry_range {
   bool empty() const noexcept { return count == 0; }               /**< Whether there are none. */
   E &operator[](std::size_t i) const noexcept { return first[i]; } /**< The element of an index below the size. */
 };
-/** The elements of a table; none of one without an array, whatever its count says. Valid until the table changes. */
+/** The elements of a table; none of one without an array, whatever its count says.
+ *  @param table the table
+ *  @return its elements, valid until the table changes */
 template <class Table> [[nodiscard]] entry_range<element<Table>> entries(Table &table) noexcept {
   return {table.data, table.data != nullptr ? std::size_t{table.count} : 0};
 }

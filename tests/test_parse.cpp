@@ -70,11 +70,11 @@ TEST(Parse, NamesAreReadInAnyLetterCase) {
 
 TEST(Parse, NothingToReadAndNowhereToWriteAreToldApart) {
   harness::captured_log log;
-  for (const auto &[name, parser] : parsers) {
+  for (const auto &[name, read] : parsers) {
     const bool is_number = name != "mac" && name != "uuid";
     const std::string function = is_number && name != "id" ? "ravix_numval_from_str" : "ravix_" + name + "_from_str";
-    const auto expect = [&, &parse = parser](const char *text, bool has_output, const std::string &answer,
-                                             const std::string &line) {
+    const auto expect = [&, &parse = read](const char *text, bool has_output, const std::string &answer,
+                                           const std::string &line) {
       EXPECT_EQ(parse(text, has_output), answer);
       EXPECT_EQ(harness::logged(log),
                 line.empty() ? "" : "\n    ravix src/ravix_types_str_convert " + function + ": " + line);

@@ -1,4 +1,4 @@
-// The field lists of all records, and these as a list of types.
+// The field lists of all records, and a visit of each record.
 #pragma once
 
 #include "ravix_types_api_request_fields.hpp"
@@ -8,10 +8,6 @@
 #include "ravix_types_radio_env_fields.hpp"
 #include "ravix_types_radiod_hal_fields.hpp"
 #include "ravix_types_sta_fields.hpp"
-
-#include <tuple>
-#include <type_traits>
-#include <utility>
 
 namespace zel::ravix {
 

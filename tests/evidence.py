@@ -45,6 +45,7 @@ CHECKS = [
     Check("abi", 1, "scripts/check-abi"),
     Check("reproducible", 1, "scripts/check-reproducible"),
     Check("package", 1, "scripts/package"),
+    Check("packages", 15, "scripts/check-packages"),
     Check("docs", 1, "scripts/docs"),
     Check("tidy", 8, "scripts/check-tidy"),
     Check("coverage", 4, "scripts/coverage"),

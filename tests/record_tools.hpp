@@ -28,9 +28,8 @@ class randomness {
 public:
   explicit randomness(unsigned seed, variety of = variety::usual) : kind(of), engine_(seed) {}
   // Chosen by the octets, as far as they go.
-  explicit randomness(std::span<const std::uint8_t> chosen, variety of = variety::usual) : randomness(0, of) {
-    chosen_ = chosen;
-  }
+  explicit randomness(std::span<const std::uint8_t> chosen, variety of = variety::usual)
+      : kind(of), engine_(begun()), chosen_(chosen) {}
   // The same as of the seed for that many choices, and different from there on.
   randomness(unsigned seed, std::size_t same) : randomness(seed) { same_ = same; }
 
@@ -45,6 +44,16 @@ public:
   const variety kind;
 
 private:
+  // Seeded, and past its first number, for which it makes the next 623 as well: copies need not.
+  static const std::mt19937 &begun() {
+    static const std::mt19937 engine = [] {
+      std::mt19937 made;
+      made.discard(1);
+      return made;
+    }();
+    return engine;
+  }
+
   std::mt19937 engine_;
   std::span<const std::uint8_t> chosen_;
   std::size_t choices_ = 0, same_ = SIZE_MAX;

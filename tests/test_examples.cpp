@@ -19,6 +19,7 @@
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -98,10 +99,23 @@ std::string networks(const iw::scan &scan) {
   return out;
 }
 
-// An input in which words in braces stand for what a text file does not hold well.
+// What words in braces stand for: parts that many cases have, and what a text file does not hold well.
 std::string expanded(const std::string &input) {
-  const std::string filled = replaced(replaced(input, "{NUL}", std::string(1, '\0')), "{cut}\n", "");
-  return replaced(filled, "{100000 letters}", std::string(100000, 'a'));
+  static const std::pair<const char *, const char *> words[] = {
+      {"\\} \\{", "}\n{"},
+      {"\\{network (.*)\\}", "BSS 02:00:00:00:00:01(on wlan0)\n\tfreq: $1\n\tsignal: -50.00 dBm\n\tSSID: net"},
+      {"\\{no signal (.*)\\}", "BSS 02:00:00:00:00:01(on wlan0)\n\tfreq: $1\n\tSSID: net"},
+      {"\\{other\\}", "BSS 02:00:00:00:00:aa(on wlan0)\n\tfreq: 2412\n\tsignal: -50.00 dBm\n\tSSID: net"},
+      {"\\{HT (.*)\\}", "\tHT capabilities:\n\t\tx\n\tHT operation:\n\t\t * secondary channel offset: $1"},
+      {"\\{VHT (.*), (.*), (.*)\\}", "\tVHT operation:\n\t\t * channel width: $1\n\t\t * center freq segment 1: $2\n"
+                                     "\t\t * center freq segment 2: $3"},
+      {"\\{HE (.*), (.*), (.*)\\}", "\tHE Operation:\n\t\tx\n\t\t\tChannel Width: $1\n"
+                                    "\t\t\tCenter Frequency Segment 0: $2\n\t\t\tCenter Frequency Segment 1: $3"}};
+  std::string text = input;
+  for (const auto &[word, meaning] : words)
+    text = std::regex_replace(text, std::regex(word), meaning);
+  text = replaced(replaced(text, "{NUL}", std::string(1, '\0')), "{cut}\n", "");
+  return replaced(text, "{100000 letters}", std::string(100000, 'a'));
 }
 
 TEST(IwScan, TextsAreReadAsRecorded) {

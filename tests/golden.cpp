@@ -122,9 +122,14 @@ void expect_answers(const std::string &name, const std::function<std::string(con
     if (line.starts_with("    ")) {
       continue; // logged anew
     }
-    const bool is_call = !line.empty() && line[0] != '#';
-    const std::string call = is_call ? line.substr(0, line.find(" = ")) : line;
-    answered += is_call ? call + " = " + answer(call) : call;
+    const bool has_calls = !line.empty() && line[0] != '#';
+    answered += has_calls ? "" : line;
+    for (std::size_t at = 0; has_calls && at < line.size();) {
+      const std::string row = line.substr(at, line.find(" // ", at) - at);
+      const std::string call = row.substr(0, row.find(" = "));
+      answered += (at == 0 ? "" : " // ") + call + " = " + answer(call);
+      at += row.size() + 4;
+    }
     answered += logged(log) + '\n';
   }
   expect_golden(name, answered);

@@ -25,9 +25,9 @@ void expect_golden(const std::string &name, std::string_view text);
 // blanks.
 std::string logged(captured_log &log);
 
-// A file of calls, each with its answer: "<call> = <answer>", and below it, indented by four blanks, what was
-// logged meanwhile. Lines that begin with '#' are comments. Makes every call that stands in the file, so that a new
-// case is a new line.
+// A file of calls, each with its answer: "<call> = <answer>", or several in a line, with " // " between them; and below
+// it, indented by four blanks, what was logged meanwhile. Lines that begin with '#' are comments. Makes every call that
+// stands in the file, so that a new case is a new line.
 void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer);
 
 // The same for inputs of several lines: "=== <title>", the input, "---", and what comes of it.

@@ -44,11 +44,25 @@ const std::map<std::string, parser> parsers = {{"simulated_event_type", answer_o
                                                {"mac", answer_of(ravix_mac_from_str)},
                                                {"uuid", answer_of(ravix_uuid_from_str)}};
 
+// Whether a parser tells what it refuses, and the lines that it logs, with that text.
+bool has_lines(const std::string &name) {
+  return name != "mac" && name != "uuid";
+}
+std::string line_of(const std::string &name, const std::string &text) {
+  const bool is_shared = has_lines(name) && name != "id";
+  return "\n    ravix src/ravix_types_str_convert " +
+         (is_shared ? "ravix_numval_from_str" : "ravix_" + name + "_from_str") + ": " + text;
+}
+
 TEST(Parse, TextsAreReadAsWritten) {
   harness::expect_answers("parse", [](const std::string &call) {
+    harness::captured_log log;
     const std::size_t blank = call.find(' ');
-    const std::string given = call.substr(blank + 2, call.size() - blank - 3);
-    return parsers.at(call.substr(0, blank))(given.c_str(), true);
+    const std::string name = call.substr(0, blank), given = call.substr(blank + 2, call.size() - blank - 3);
+    const std::string answer = parsers.at(name)(given.c_str(), true);
+    const bool is_told = has_lines(name) && answer.starts_with("refused");
+    EXPECT_EQ(harness::logged(log), is_told ? line_of(name, "Invalid parameter value '" + given + "'!") : "");
+    return answer;
   });
 }
 
@@ -70,17 +84,14 @@ TEST(Parse, NamesAreReadInAnyLetterCase) {
 
 TEST(Parse, NothingToReadAndNowhereToWriteAreToldApart) {
   harness::captured_log log;
-  for (const auto &[name, read] : parsers) {
-    const bool is_number = name != "mac" && name != "uuid";
-    const std::string function = is_number && name != "id" ? "ravix_numval_from_str" : "ravix_" + name + "_from_str";
-    const auto expect = [&, &parse = read](const char *text, bool has_output, const std::string &answer,
-                                           const std::string &line) {
-      EXPECT_EQ(parse(text, has_output), answer);
-      EXPECT_EQ(harness::logged(log),
-                line.empty() ? "" : "\n    ravix src/ravix_types_str_convert " + function + ": " + line);
+  for (const auto &row : parsers) {
+    const std::string &name = row.first;
+    const auto expect = [&](const char *text, bool has_output, const std::string &answer, const std::string &line) {
+      EXPECT_EQ(row.second(text, has_output), answer);
+      EXPECT_EQ(harness::logged(log), line.empty() ? "" : line_of(name, line));
     };
     const std::string untouched = name == "enabled" ? "refused 1" : "refused 85";
-    expect("", true, untouched, is_number ? "str_param is empty!" : "");
+    expect("", true, untouched, has_lines(name) ? "str_param is empty!" : "");
     expect(nullptr, true, untouched, "Invalid pointer 'str_param'!");
     expect(nullptr, false, "refused", "Invalid pointer 'str_param'!");
     expect("1", false, "refused", "Invalid pointer 'output'!");

@@ -6,31 +6,27 @@
 
 namespace zel::ravix {
 
-template <> struct field_list<ravix_start_scan_request_t> {
-  using R = ravix_start_scan_request_t;
+RAVIX_FIELD_LIST(ravix_start_scan_request_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(scan_parameter),
   };
 };
 
-template <> struct field_list<ravix_start_scan_response_t> {
-  using R = ravix_start_scan_response_t;
+RAVIX_FIELD_LIST(ravix_start_scan_response_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(status, status),
   };
 };
 
-template <> struct field_list<ravix_get_scan_results_request_t> {
-  using R = ravix_get_scan_results_request_t;
+RAVIX_FIELD_LIST(ravix_get_scan_results_request_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(selective_scan_results),
   };
 };
 
-template <> struct field_list<ravix_get_scan_results_response_t> {
-  using R = ravix_get_scan_results_response_t;
+RAVIX_FIELD_LIST(ravix_get_scan_results_response_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(status, status),
       RAVIX_FIELD(scan_results),

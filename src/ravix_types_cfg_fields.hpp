@@ -71,38 +71,33 @@ constexpr tagged<Tag, First, Second> tag_fields(const char *name, std::size_t of
 
 // ---- records
 
-template <> struct field_list<ravix_cfg_debug_settings_t> {
-  using R = ravix_cfg_debug_settings_t;
+RAVIX_FIELD_LIST(ravix_cfg_debug_settings_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(trace_state),
       RAVIX_FIELD(trace_parameter),
   };
 };
 
-template <> struct field_list<ravix_cfg_meshd_settings_t> {
-  using R = ravix_cfg_meshd_settings_t;
+RAVIX_FIELD_LIST(ravix_cfg_meshd_settings_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(band_steering),
       RAVIX_FIELD(backhaul_steering),
   };
 };
 
-template <> struct field_list<ravix_cfg_time_control_t> {
-  using R = ravix_cfg_time_control_t;
+RAVIX_FIELD_LIST(ravix_cfg_time_control_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(forced_off),
   };
 };
 
-template <> struct field_list<ravix_cfg_repeating_t> {
-  using R = ravix_cfg_repeating_t;
+RAVIX_FIELD_LIST(ravix_cfg_repeating_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(overwrite_ap_config),
   };
 };
 
-template <> struct field_list<ravix_cfg_access_control_settings_t> {
-  using R = ravix_cfg_access_control_settings_t;
+RAVIX_FIELD_LIST(ravix_cfg_access_control_settings_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(autofill_enable),
       RAVIX_FIELD(ssids_source),
@@ -110,8 +105,7 @@ template <> struct field_list<ravix_cfg_access_control_settings_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_global_settings_t> {
-  using R = ravix_cfg_global_settings_t;
+RAVIX_FIELD_LIST(ravix_cfg_global_settings_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(wlan_enabled),
       RAVIX_FIELD(auto_settings),
@@ -128,15 +122,13 @@ template <> struct field_list<ravix_cfg_global_settings_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_auto_update_role_opmode_t> {
-  using R = ravix_cfg_auto_update_role_opmode_t;
+RAVIX_FIELD_LIST(ravix_cfg_auto_update_role_opmode_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(role_opmode, role_opmode),
   };
 };
 
-template <> struct field_list<ravix_cfg_auto_update_feature_t> {
-  using R = ravix_cfg_auto_update_feature_t;
+RAVIX_FIELD_LIST(ravix_cfg_auto_update_feature_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(feature, features),
   };
@@ -149,8 +141,7 @@ struct rule_tag {
   static void log_rejected(const R &rule, call_site site);
 };
 
-template <> struct field_list<ravix_cfg_auto_update_rule_t> {
-  using R = ravix_cfg_auto_update_rule_t;
+RAVIX_FIELD_LIST(ravix_cfg_auto_update_rule_t) {
   static constexpr auto type = RAVIX_FIELD(type);
   static constexpr auto payload =
       tag_fields<rule_tag>("payload", offsetof(R, auto_update_features), RAVIX_FIELD(auto_update_features),
@@ -160,11 +151,10 @@ template <> struct field_list<ravix_cfg_auto_update_rule_t> {
       type,
       payload,
   };
-  static void clear(R &rule, call_site site);
+  static void clear(R & rule, call_site site);
 };
 
-template <> struct field_list<ravix_cfg_hardware_static_t> {
-  using R = ravix_cfg_hardware_static_t;
+RAVIX_FIELD_LIST(ravix_cfg_hardware_static_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(id, id),
       RAVIX_FIELD(vendor_id),
@@ -173,8 +163,7 @@ template <> struct field_list<ravix_cfg_hardware_static_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_radio_static_t> {
-  using R = ravix_cfg_radio_static_t;
+RAVIX_FIELD_LIST(ravix_cfg_radio_static_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(id, id),
       RAVIX_FIELD(if_name),
@@ -189,8 +178,7 @@ template <> struct field_list<ravix_cfg_radio_static_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_radio_dynamic_t> {
-  using R = ravix_cfg_radio_dynamic_t;
+RAVIX_FIELD_LIST(ravix_cfg_radio_dynamic_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(id, id),
       RAVIX_FIELD(enabled),
@@ -198,8 +186,7 @@ template <> struct field_list<ravix_cfg_radio_dynamic_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_wlan_wps_t> {
-  using R = ravix_cfg_wlan_wps_t;
+RAVIX_FIELD_LIST(ravix_cfg_wlan_wps_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(enable),
       RAVIX_FIELD(uuid, uuid),
@@ -207,8 +194,7 @@ template <> struct field_list<ravix_cfg_wlan_wps_t> {
 };
 
 // Servers are the same wherever they stand in the operator's list.
-template <> struct field_list<ravix_cfg_radius_server_t> {
-  using R = ravix_cfg_radius_server_t;
+RAVIX_FIELD_LIST(ravix_cfg_radius_server_t) {
   static constexpr std::tuple fields{
       not_compared{RAVIX_FIELD(index, index)},
       RAVIX_FIELD(port),
@@ -217,18 +203,14 @@ template <> struct field_list<ravix_cfg_radius_server_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_radius_server_table_t> : table_fields<ravix_cfg_radius_server_table_t> {};
-
-template <> struct field_list<ravix_cfg_wlan_security_t> {
-  using R = ravix_cfg_wlan_security_t;
+RAVIX_FIELD_LIST(ravix_cfg_wlan_security_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(security, security), RAVIX_FIELD(pmf_mode, pmf_mode), RAVIX_FIELD(key), RAVIX_FIELD(wps),
       RAVIX_FIELD(auth_servers),       RAVIX_FIELD(acct_servers),
   };
 };
 
-template <> struct field_list<ravix_cfg_security_extended_t> {
-  using R = ravix_cfg_security_extended_t;
+RAVIX_FIELD_LIST(ravix_cfg_security_extended_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(encryption, encryption),
       RAVIX_FIELD(pmf_mode, pmf_mode),
@@ -240,11 +222,7 @@ template <> struct field_list<ravix_cfg_security_extended_t> {
   };
 };
 
-template <>
-struct field_list<ravix_cfg_security_extended_table_t> : table_fields<ravix_cfg_security_extended_table_t> {};
-
-template <> struct field_list<ravix_cfg_role_access_control_t> {
-  using R = ravix_cfg_role_access_control_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_access_control_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(mac_filter_enabled),
       RAVIX_FIELD(mac_filter_type, mac_access_type),
@@ -255,8 +233,7 @@ template <> struct field_list<ravix_cfg_role_access_control_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_role_ap_time_control_t> {
-  using R = ravix_cfg_role_ap_time_control_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_ap_time_control_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(timeout_active),
       RAVIX_FIELD(timeout_minutes),
@@ -264,8 +241,7 @@ template <> struct field_list<ravix_cfg_role_ap_time_control_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_role_config_ap_t> {
-  using R = ravix_cfg_role_config_ap_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_config_ap_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(ssid),
       RAVIX_FIELD(ssid_set),
@@ -277,16 +253,14 @@ template <> struct field_list<ravix_cfg_role_config_ap_t> {
   };
 };
 
-template <> struct field_list<ravix_cfg_role_config_sta_uplink_t> {
-  using R = ravix_cfg_role_config_sta_uplink_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_config_sta_uplink_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(ssid),
       RAVIX_FIELD(mac_master, mac),
   };
 };
 
-template <> struct field_list<ravix_cfg_role_config_sta_t> {
-  using R = ravix_cfg_role_config_sta_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_config_sta_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(marked_for_uplink_completion),
       RAVIX_FIELD(uplink_configured),
@@ -331,8 +305,7 @@ template <auto Member> struct role_config : owned<Member> {
   }
 };
 
-template <> struct field_list<ravix_cfg_role_static_t> {
-  using R = ravix_cfg_role_static_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_static_t) {
   static constexpr auto payload = tag_fields<role_tag>(
       "config", offsetof(R, config_ap),
       role_config<&R::config_ap>{{{{"config_ap", offsetof(R, config_ap)}}}, "nullptr != src->config_ap"},
@@ -350,27 +323,24 @@ template <> struct field_list<ravix_cfg_role_static_t> {
       RAVIX_FIELD(security),
       payload,
   };
-  static void clear(R &role, call_site site);
+  static void clear(R & role, call_site site);
 };
 
-template <> struct field_list<ravix_cfg_owe_transition_t> {
-  using R = ravix_cfg_owe_transition_t;
+RAVIX_FIELD_LIST(ravix_cfg_owe_transition_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(owe_master_id, id), RAVIX_FIELD(owe_slave_id, id), RAVIX_FIELD(owe_active),
       RAVIX_FIELD(owe_ssid),          RAVIX_FIELD(owe_bssid, mac),
   };
 };
 
-template <> struct field_list<ravix_cfg_mld_t> {
-  using R = ravix_cfg_mld_t;
+RAVIX_FIELD_LIST(ravix_cfg_mld_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(mld_mac, mac),
       RAVIX_FIELD(mld_role_ids),
   };
 };
 
-template <> struct field_list<ravix_cfg_role_dynamic_t> {
-  using R = ravix_cfg_role_dynamic_t;
+RAVIX_FIELD_LIST(ravix_cfg_role_dynamic_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(id, id),
       RAVIX_FIELD(enabled),

@@ -5,8 +5,7 @@
 
 namespace zel::ravix {
 
-template <> struct field_list<ravix_channel_info_t> {
-  using R = ravix_channel_info_t;
+RAVIX_FIELD_LIST(ravix_channel_info_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(primary_freq, channel_frequency),
       RAVIX_FIELD(center_freq, channel_frequency),
@@ -29,30 +28,26 @@ struct address_octets : array<&ravix_ip_addr_t::addr, meaning::uuid> {
   }
 };
 
-template <> struct field_list<ravix_ip_addr_t> {
-  using R = ravix_ip_addr_t;
+RAVIX_FIELD_LIST(ravix_ip_addr_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(version),
       address_octets{{{"addr", offsetof(R, addr)}}},
   };
 };
 
-template <> struct field_list<ravix_key_t> {
-  using R = ravix_key_t;
+RAVIX_FIELD_LIST(ravix_key_t) {
   static constexpr std::tuple fields{
       secret{RAVIX_COUNTED_OCTETS(len, key, "src->len is greater than RAVIX_MAX_KEY_LEN!")},
   };
 };
 
-template <> struct field_list<ravix_ssid_t> {
-  using R = ravix_ssid_t;
+RAVIX_FIELD_LIST(ravix_ssid_t) {
   static constexpr std::tuple fields{
       RAVIX_COUNTED_OCTETS(len, ssid, "src->len is greater than RAVIX_MAX_SSID_LEN!"),
   };
 };
 
-template <> struct field_list<ravix_tlv_t> {
-  using R = ravix_tlv_t;
+RAVIX_FIELD_LIST(ravix_tlv_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(type),
       owned_octets<&R::len, &R::value>{{"value", offsetof(R, len)}},
@@ -65,8 +60,6 @@ template <> struct field_list<ravix_id_table_t> : table_fields<ravix_id_table_t,
 
 template <> struct field_list<ravix_mac_table_t> : table_fields<ravix_mac_table_t, meaning::mac> {};
 
-template <> struct field_list<ravix_ssid_table_t> : table_fields<ravix_ssid_table_t> {};
-
 // Owned texts as elements: a slot may be null.
 template <> struct element<char *> {
   using entry = const char *const;
@@ -78,9 +71,5 @@ template <> struct element<char *> {
   static int copy(const char *const *src, char **dest);
   static int compare(const char *const *a, const char *const *b) { return compare_texts(*a, *b); }
 };
-
-template <> struct field_list<ravix_string_table_t> : table_fields<ravix_string_table_t> {};
-
-template <> struct field_list<ravix_tlv_table_t> : table_fields<ravix_tlv_table_t> {};
 
 } // namespace zel::ravix

@@ -6,16 +6,14 @@
 
 namespace zel::ravix {
 
-template <> struct field_list<ravix_event_log_entry_t> {
-  using R = ravix_event_log_entry_t;
+RAVIX_FIELD_LIST(ravix_event_log_entry_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(event_id), RAVIX_FIELD(max_rate, bitrate), RAVIX_FIELD(mac, mac), RAVIX_FIELD(band, radio_band),
       RAVIX_FIELD(is_mlo),   RAVIX_FIELD(details),
   };
 };
 
-template <> struct field_list<ravix_event_scan_results_t> {
-  using R = ravix_event_scan_results_t;
+RAVIX_FIELD_LIST(ravix_event_scan_results_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(scan_parameter),
@@ -23,16 +21,14 @@ template <> struct field_list<ravix_event_scan_results_t> {
   };
 };
 
-template <> struct field_list<ravix_event_green_ap_t> {
-  using R = ravix_event_green_ap_t;
+RAVIX_FIELD_LIST(ravix_event_green_ap_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(enabled),
   };
 };
 
-template <> struct field_list<ravix_event_channel_change_t> {
-  using R = ravix_event_channel_change_t;
+RAVIX_FIELD_LIST(ravix_event_channel_change_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),         RAVIX_FIELD(prev_channel),
       RAVIX_FIELD(new_channel),          RAVIX_FIELD(reason, channel_change_reason),
@@ -40,8 +36,7 @@ template <> struct field_list<ravix_event_channel_change_t> {
   };
 };
 
-template <> struct field_list<ravix_event_interference_t> {
-  using R = ravix_event_interference_t;
+RAVIX_FIELD_LIST(ravix_event_interference_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(primary_freq, channel_frequency),
@@ -50,8 +45,7 @@ template <> struct field_list<ravix_event_interference_t> {
   };
 };
 
-template <> struct field_list<ravix_event_radar_wait_t> {
-  using R = ravix_event_radar_wait_t;
+RAVIX_FIELD_LIST(ravix_event_radar_wait_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(role_id, id),
       RAVIX_FIELD(started),
@@ -61,8 +55,7 @@ template <> struct field_list<ravix_event_radar_wait_t> {
   };
 };
 
-template <> struct field_list<ravix_event_radar_detected_t> {
-  using R = ravix_event_radar_detected_t;
+RAVIX_FIELD_LIST(ravix_event_radar_detected_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(expire_ts_uptime, seconds),
@@ -74,8 +67,7 @@ template <> struct field_list<ravix_event_radar_detected_t> {
   };
 };
 
-template <> struct field_list<ravix_event_radar_precac_t> {
-  using R = ravix_event_radar_precac_t;
+RAVIX_FIELD_LIST(ravix_event_radar_precac_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(primary_freq, channel_frequency),
@@ -83,8 +75,7 @@ template <> struct field_list<ravix_event_radar_precac_t> {
   };
 };
 
-template <> struct field_list<ravix_event_client_state_update_t> {
-  using R = ravix_event_client_state_update_t;
+RAVIX_FIELD_LIST(ravix_event_client_state_update_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(role_id, id),
       RAVIX_FIELD(mac, mac),
@@ -93,8 +84,7 @@ template <> struct field_list<ravix_event_client_state_update_t> {
   };
 };
 
-template <> struct field_list<ravix_event_client_activity_update_t> {
-  using R = ravix_event_client_activity_update_t;
+RAVIX_FIELD_LIST(ravix_event_client_activity_update_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(role_id, id),
       RAVIX_FIELD(mac, mac),
@@ -102,8 +92,7 @@ template <> struct field_list<ravix_event_client_activity_update_t> {
   };
 };
 
-template <> struct field_list<ravix_event_client_rssi_update_t> {
-  using R = ravix_event_client_rssi_update_t;
+RAVIX_FIELD_LIST(ravix_event_client_rssi_update_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(role_id, id), RAVIX_FIELD(mac, mac),   RAVIX_FIELD(rsni, rsni),
       RAVIX_FIELD(rcpi, rcpi),  RAVIX_FIELD(anpi, anpi),

@@ -16,6 +16,8 @@ namespace zel::ravix {
 // Specialised for each record. Besides `fields` it may have `clear(r, site)`, in place of clearing field by field.
 template <class R> struct field_list;
 
+template <class Record> struct list_of { using R = Record; };
+
 template <class T>
 concept has_fields = requires {
   field_list<T>::fields;

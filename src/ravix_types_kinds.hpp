@@ -321,10 +321,13 @@ template <class T, class Meaning = void> struct table_fields {
 };
 
 template <class T>
-concept table_record = has_fields<T> && requires(const T &table) {
+concept table_record = requires(const T &table) {
   table.count;
   table.data;
 };
+
+// The field list of most tables.
+template <table_record T> struct field_list<T> : table_fields<T> {};
 
 // ---- attributes
 
@@ -368,7 +371,10 @@ template <auto Member, class Meaning = void> constexpr auto field(const char *na
   }
 }
 
-// An entry of the field list of the record R: the member and, unless its type tells, the meaning of its value.
+// Begins the field list of a record, which its entries call R.
+#define RAVIX_FIELD_LIST(RECORD) template <> struct field_list<RECORD> : list_of<RECORD>
+
+// An entry of the field list: the member and, unless its type tells, the meaning of its value.
 #define RAVIX_FIELD(MEMBER, ...)                                                                                       \
   zel::ravix::field<&R::MEMBER __VA_OPT__(, zel::ravix::meaning::) __VA_ARGS__>(#MEMBER, offsetof(R, MEMBER))
 

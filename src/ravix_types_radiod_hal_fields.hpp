@@ -30,16 +30,14 @@ template <> struct field_list<radiod_hal_event_check_config_t> {
   static constexpr auto fields = hal_result_fields<radiod_hal_event_check_config_t>;
 };
 
-template <> struct field_list<radiod_hal_event_sanity_t> {
-  using R = radiod_hal_event_sanity_t;
+RAVIX_FIELD_LIST(radiod_hal_event_sanity_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(error_origin), RAVIX_FIELD(error_class), RAVIX_FIELD(error_message),
       RAVIX_FIELD(hal_context),  RAVIX_FIELD(recovery),
   };
 };
 
-template <> struct field_list<radiod_hal_event_scan_fail_t> {
-  using R = radiod_hal_event_scan_fail_t;
+RAVIX_FIELD_LIST(radiod_hal_event_scan_fail_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(radio_id, id),
       RAVIX_FIELD(status, status),

@@ -17,8 +17,7 @@ template <class Kind> struct lenient : Kind {
   }
 };
 
-template <> struct field_list<ravix_station_entry_t> {
-  using R = ravix_station_entry_t;
+RAVIX_FIELD_LIST(ravix_station_entry_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(state, sta_state),
       RAVIX_FIELD(mode, wlan_mode),
@@ -42,10 +41,7 @@ template <> struct field_list<ravix_station_entry_t> {
   };
 };
 
-template <> struct field_list<ravix_station_table_t> : table_fields<ravix_station_table_t> {};
-
-template <> struct field_list<ravix_remote_client_entry_t> {
-  using R = ravix_remote_client_entry_t;
+RAVIX_FIELD_LIST(ravix_remote_client_entry_t) {
   static constexpr std::tuple fields{
       lenient{RAVIX_FIELD(parent_nexus_device_address)},
       RAVIX_FIELD(bssid, mac),
@@ -75,10 +71,7 @@ template <> struct field_list<ravix_remote_client_entry_t> {
   };
 };
 
-template <> struct field_list<ravix_remote_client_table_t> : table_fields<ravix_remote_client_table_t> {};
-
-template <> struct field_list<ravix_remote_ap_entry_t> {
-  using R = ravix_remote_ap_entry_t;
+RAVIX_FIELD_LIST(ravix_remote_ap_entry_t) {
   static constexpr std::tuple fields{
       lenient{RAVIX_FIELD(nexus_device_address)},
       RAVIX_FIELD(opmode, role_opmode),
@@ -96,10 +89,7 @@ template <> struct field_list<ravix_remote_ap_entry_t> {
   };
 };
 
-template <> struct field_list<ravix_remote_ap_table_t> : table_fields<ravix_remote_ap_table_t> {};
-
-template <> struct field_list<ravix_station_history_entry_t> {
-  using R = ravix_station_history_entry_t;
+RAVIX_FIELD_LIST(ravix_station_history_entry_t) {
   static constexpr std::tuple fields{
       RAVIX_FIELD(mac, mac),          RAVIX_FIELD(quality, percentage),     RAVIX_FIELD(wlan_mode, wlan_mode),
       RAVIX_FIELD(role_handle, id),   RAVIX_FIELD(time_connect, timestamp), RAVIX_FIELD(time_disconnect, timestamp),
@@ -107,7 +97,5 @@ template <> struct field_list<ravix_station_history_entry_t> {
       RAVIX_FIELD(status_disconnect), RAVIX_FIELD(initiator_disconnect),    RAVIX_FIELD(ieee802_11_reason_disconnect),
   };
 };
-
-template <> struct field_list<ravix_station_history_table_t> : table_fields<ravix_station_history_table_t> {};
 
 } // namespace zel::ravix

@@ -15,7 +15,7 @@ namespace zel::ravix {
 //
 // The tag stands before the field, so a record's clear must clear this field first. The first field is as large as the
 // storage.
-template <class Tag, class First, class Second> struct tagged : any_kind<> {
+template <class Tag, class First, class Second> struct tagged : any_kind<void> {
   using R = typename First::R;
   static constexpr bool is_flat = false;
   First first;

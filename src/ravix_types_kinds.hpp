@@ -8,7 +8,9 @@
 //   clear(r, site)                releases what the field owns, gives it its empty value
 //   accepts(src)                  tells whether the value may be copied, memory permitting; `refusal` is the message
 //                                 of a field that refuses for itself
-//   copy(src, dest, site)         copies into the cleared field; a failure names the message and the result
+//   copy(src, dest, site)         copies into the cleared field; a failure names the message and the result. A flat
+//   field
+//                                 that cannot fail has copy_members(src, dest) instead
 //   compare(a, b)                 negative, 0 or positive
 //   print(out, r)                 the value's text, on one line
 //   print_diff(out, r, ref, ...)  the lines of a difference print (defaults to "name: text")
@@ -43,26 +45,28 @@ template <auto Member> using record_of = typename member_traits<Member>::record;
 template <auto Member> using value_of = typename member_traits<Member>::value;
 
 // What every kind has.
-template <class Meaning = void> struct any_kind {
+template <class Meaning, auto... Members> struct any_kind {
   using meaning = Meaning;
   static constexpr bool is_secret = false;
   const char *name;
   std::size_t offset;
 
+  template <class R, class Visit> static void members(const R &r, Visit visit) { (visit(r.*Members), ...); }
   template <class R> static bool accepts(const R & /*src*/) { return true; }
 };
 
-// Kinds of which every value may be copied by assignment.
-template <class Meaning = void> struct flat_kind : any_kind<Meaning> {
+// Kinds of which every value may be copied by assignment, and most are empty when they are zero.
+template <class Meaning, auto... Members> struct flat_kind : any_kind<Meaning, Members...> {
   static constexpr bool is_flat = true;
 
+  template <class R> static void clear(R &r, call_site /*site*/) {
+    (std::memset(&(r.*Members), 0, sizeof(r.*Members)), ...);
+  }
+  template <class R> static void copy_members(const R &src, R &dest) {
+    (std::memcpy(&(dest.*Members), &(src.*Members), sizeof(dest.*Members)), ...);
+  }
   template <class R> static void trim(const R & /*src*/, R & /*dest*/) {}
 };
-
-// The octets of a member, whatever they are.
-template <class T> void copy_member(const T &src, T &dest) {
-  std::memcpy(&dest, &src, sizeof(T));
-}
 
 // A value as a number. Of a flag it is the octet: memory of a caller's may hold any, and to read a bool that is neither
 // 0 nor 1 is undefined.
@@ -74,16 +78,11 @@ template <class T> auto number_of(const T &member) {
 }
 
 // Number, flag set, enumerated value, flag or pointer that is not owned.
-template <auto Member, class Meaning> struct scalar : flat_kind<Meaning> {
+template <auto Member, class Meaning> struct scalar : flat_kind<Meaning, Member> {
   using R = record_of<Member>;
   using value = decltype(number_of(value_of<Member>{}));
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
   static void clear(R &r, call_site /*site*/) { r.*Member = static_cast<value_of<Member>>(Meaning::empty); }
-  static failure copy(const R &src, R &dest, call_site /*site*/) {
-    copy_member(src.*Member, dest.*Member);
-    return {};
-  }
   static int compare(const R &a, const R &b) {
     const auto left = number_of(a.*Member);
     const auto right = number_of(b.*Member);
@@ -93,17 +92,11 @@ template <auto Member, class Meaning> struct scalar : flat_kind<Meaning> {
 };
 
 // Octets or enumerated values of a fixed number, all of which count.
-template <auto Member, class Meaning> struct array : flat_kind<Meaning> {
+template <auto Member, class Meaning> struct array : flat_kind<Meaning, Member> {
   using R = record_of<Member>;
   using value = std::uint8_t;
   static constexpr std::size_t size = sizeof(value_of<Member>);
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
-  static void clear(R &r, call_site /*site*/) { std::memset(r.*Member, 0, size); }
-  static failure copy(const R &src, R &dest, call_site /*site*/) {
-    copy_member(src.*Member, dest.*Member);
-    return {};
-  }
   static int compare(const R &a, const R &b) {
     const int order = std::memcmp(a.*Member, b.*Member, size);
     return Meaning::kind == value_kind::octets ? order : (order > 0) - (order < 0);
@@ -123,27 +116,13 @@ template <auto Member, class Meaning> struct array : flat_kind<Meaning> {
 };
 
 // A count of octets and the octets, in an array one larger than the most that count.
-template <auto Length, auto Octets> struct counted_octets : flat_kind<> {
+template <auto Length, auto Octets> struct counted_octets : flat_kind<void, Length, Octets> {
   using R = record_of<Length>;
   static constexpr std::size_t size = sizeof(value_of<Octets>);
   static constexpr std::array<std::uint8_t, size> zeros{};
   const char *refusal; // message when the count exceeds what the array may hold
 
-  template <class Visit> static void members(const R &r, Visit visit) {
-    visit(r.*Length);
-    visit(r.*Octets);
-  }
-  static void clear(R &r, call_site /*site*/) {
-    r.*Length = 0;
-    std::memset(r.*Octets, 0, size);
-  }
   static bool accepts(const R &src) { return src.*Length < size; }
-  static failure copy(const R &src, R &dest, call_site /*site*/) {
-    dest.*Length = src.*Length;
-    copy_member(src.*Octets, dest.*Octets);
-    trim(src, dest);
-    return {};
-  }
   // Most are trimmed already, and to look costs less than to write.
   static void trim(const R &src, R &dest) {
     const std::size_t used = src.*Length;
@@ -160,17 +139,10 @@ template <auto Length, auto Octets> struct counted_octets : flat_kind<> {
 };
 
 // Zero-terminated text in an array of its own; the copy never fills the last character.
-template <auto Member> struct bounded_text : flat_kind<> {
+template <auto Member> struct bounded_text : flat_kind<void, Member> {
   using R = record_of<Member>;
   static constexpr std::size_t size = sizeof(value_of<Member>);
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
-  static void clear(R &r, call_site /*site*/) { std::memset(r.*Member, 0, size); }
-  static failure copy(const R &src, R &dest, call_site /*site*/) {
-    copy_member(src.*Member, dest.*Member);
-    trim(src, dest);
-    return {};
-  }
   static void trim(const R &src, R &dest) {
     const std::size_t used = std::min(view(src).size(), size - 1);
     std::memset(&(dest.*Member)[used], 0, size - used);
@@ -183,13 +155,12 @@ template <auto Member> struct bounded_text : flat_kind<> {
 };
 
 // Record or table embedded in the record.
-template <auto Member> struct nested : any_kind<> {
+template <auto Member> struct nested : any_kind<void, Member> {
   using R = record_of<Member>;
   using T = value_of<Member>;
   static constexpr bool is_flat = zel::ravix::is_flat<T>();
   static constexpr bool is_secret = has_secret<T>();
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
   static void clear(R &r, call_site /*site*/) { element<T>::clear(&(r.*Member)); }
   static bool accepts(const R &src) { return accepts_fields(src.*Member); }
   static failure copy(const R &src, R &dest, call_site /*site*/) {
@@ -200,21 +171,18 @@ template <auto Member> struct nested : any_kind<> {
   static int compare(const R &a, const R &b) { return compare_fields(a.*Member, b.*Member); }
   template <class Out> static void print(Out &out, const R &r) { out.value(r.*Member); }
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool /*newline*/) const {
-    out.diff(r.*Member, ref != nullptr ? &(ref->*Member) : nullptr, name, indent, true);
+    out.diff(r.*Member, ref != nullptr ? &(ref->*Member) : nullptr, this->name, indent, true);
   }
 };
 
 // Kinds that own memory.
-struct owning_kind : any_kind<> {
-  static constexpr bool is_flat = false;
-};
+template <auto... Members> struct owning_kind : any_kind<void, Members...> { static constexpr bool is_flat = false; };
 
 // Pointer to a record that is owned, or null.
-template <auto Member> struct owned : owning_kind {
+template <auto Member> struct owned : owning_kind<Member> {
   using R = record_of<Member>;
   using T = std::remove_pointer_t<value_of<Member>>;
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
   static void clear(R &r, call_site /*site*/) {
     operations<T>::free(r.*Member);
     r.*Member = nullptr;
@@ -229,7 +197,7 @@ template <auto Member> struct owned : owning_kind {
   }
   static int compare(const R &a, const R &b) { return operations<T>::compare(a.*Member, b.*Member); }
   template <class Out> void print_diff(Out &out, const R &r, const R *ref, unsigned indent, bool newline) const {
-    out.diff_pointee(r.*Member, ref != nullptr, ref != nullptr ? ref->*Member : nullptr, name, indent, newline);
+    out.diff_pointee(r.*Member, ref != nullptr, ref != nullptr ? ref->*Member : nullptr, this->name, indent, newline);
   }
 };
 
@@ -239,10 +207,9 @@ inline int compare_texts(const char *a, const char *b) {
 }
 
 // Zero-terminated text that is owned, or null.
-template <auto Member> struct owned_text : owning_kind {
+template <auto Member> struct owned_text : owning_kind<Member> {
   using R = record_of<Member>;
 
-  template <class Visit> static void members(const R &r, Visit visit) { visit(r.*Member); }
   static void clear(R &r, call_site site) {
     slab_cbcontext_free(r.*Member, site.path, site.line);
     r.*Member = nullptr;
@@ -259,13 +226,9 @@ template <auto Member> struct owned_text : owning_kind {
 };
 
 // An 8-bit count of octets and the octets, owned; null when the count is 0.
-template <auto Length, auto Octets> struct owned_octets : owning_kind {
+template <auto Length, auto Octets> struct owned_octets : owning_kind<Length, Octets> {
   using R = record_of<Length>;
 
-  template <class Visit> static void members(const R &r, Visit visit) {
-    visit(r.*Length);
-    visit(r.*Octets);
-  }
   static void clear(R &r, call_site site) {
     r.*Length = 0;
     slab_cbcontext_free(r.*Octets, site.path, site.line);
@@ -298,14 +261,10 @@ template <auto Length, auto Octets> struct owned_octets : owning_kind {
 };
 
 // The count and array of a table. The meaning is that of plain elements; records have field lists of their own.
-template <class T, class Meaning = void> struct entries : owning_kind {
+template <class T, class Meaning = void> struct entries : owning_kind<&T::count, &T::data> {
   using meaning = Meaning;
   using value = element_of<T>;
 
-  template <class Visit> static void members(const T &table, Visit visit) {
-    visit(table.count);
-    visit(table.data);
-  }
   static void clear(T &table, call_site /*site*/) { generic_table_clear(&table); }
   static bool accepts(const T &src) { return table::accepts(src); }
   static failure copy(const T &src, T &dest, call_site site) {

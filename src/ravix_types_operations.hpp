@@ -58,10 +58,20 @@ template <class R> void copy_flat(const R &src, R &dest) {
   trim_fields(src, dest);
 }
 
+template <class Field, class R> failure copy_field(const Field &field, const R &src, R &dest, call_site site) {
+  if constexpr (requires { field.copy(src, dest, site); }) {
+    return field.copy(src, dest, site);
+  } else {
+    field.copy_members(src, dest);
+    field.trim(src, dest);
+    return {};
+  }
+}
+
 // Copies the fields into a cleared record, up to the first that fails.
 template <class R> failure copy_fields(const R &src, R &dest, call_site site) {
   failure failed;
-  all_fields<R>([&](const auto &field) { return !(failed = field.copy(src, dest, site)); });
+  all_fields<R>([&](const auto &field) { return !(failed = copy_field(field, src, dest, site)); });
   return failed;
 }
 

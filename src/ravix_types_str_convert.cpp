@@ -99,13 +99,13 @@ char *put_pair(char *out, std::uint32_t value) {
   return out + 2;
 }
 
-char *put_number(char *out, std::uint32_t value) {
+char *put(char *out, std::uint32_t value) {
   if (value >= 10000) {
-    out = put_pair(put_number(out, value / 10000), value / 100 % 100);
+    out = put_pair(put(out, value / 10000), value / 100 % 100);
     return put_pair(out, value % 100);
   }
   if (value >= 100) {
-    out = put_number(out, value / 100);
+    out = put(out, value / 100);
     return put_pair(out, value % 100);
   }
   // Of a single digit the leading zero is overwritten: a branch on it would be guessed wrong too often.
@@ -115,19 +115,22 @@ char *put_number(char *out, std::uint32_t value) {
   return out + 1;
 }
 
-char *put_number(char *out, std::int32_t value) {
+char *put(char *out, std::int32_t value) {
   const auto magnitude = static_cast<std::uint32_t>(value);
   *out = '-';
   out += value < 0 ? 1 : 0;
-  return put_number(out, value < 0 ? 0 - magnitude : magnitude);
+  return put(out, value < 0 ? 0 - magnitude : magnitude);
 }
 
 // "%<Width>u".
-template <std::size_t Width> char *put_padded(char *out, std::uint32_t value) {
+template <std::size_t Width> struct padded {
   static_assert(Width == 3 || Width == 4);
+  std::uint32_t value;
+};
+template <std::size_t Width> char *put(char *out, padded<Width> number) {
   std::memset(out, ' ', Width);
-  const std::size_t blanks = (value < 10) + (value < 100) + (Width == 4 && value < 1000);
-  return put_number(out + blanks, value);
+  const std::size_t blanks = (number.value < 10) + (number.value < 100) + (Width == 4 && number.value < 1000);
+  return put(out + blanks, number.value);
 }
 
 // The digits of each octet, and at the end how many they are.
@@ -146,7 +149,7 @@ constexpr auto octet_digits = [] {
 }();
 
 // "%u" of an octet that another character follows, which is overwritten.
-char *put_number(char *out, std::uint8_t octet) {
+char *put(char *out, std::uint8_t octet) {
   const char *text = &octet_digits[std::size_t{4} * octet];
   std::memcpy(out, text, 4);
   return out + text[3];
@@ -193,6 +196,18 @@ char *put_octets(char *out, const std::uint8_t *value) {
   return out;
 }
 
+// Characters that a piece takes at most.
+template <class Piece> constexpr std::size_t longest = digits;
+template <std::size_t Size> constexpr std::size_t longest<char[Size]> = Size - 1;
+
+// Publishes the pieces, one after the other.
+template <class... Pieces> const char *joined(const Pieces &...pieces) {
+  return build_text<(longest<Pieces> + ...)>([&](char *out) {
+    ((out = put(out, pieces)), ...);
+    return out;
+  });
+}
+
 constexpr unsigned mac_separated = 0b111110;
 constexpr unsigned uuid_separated = 0b10101010000;
 
@@ -218,11 +233,7 @@ template <class Shown> const char *name_or_number(const value_list &names, Shown
   if (const char *name = find_name(names, static_cast<std::int32_t>(value)); name != nullptr) {
     return name;
   }
-  return build_text<digits + 18>([&](char *out) {
-    out = put(out, "<invalid value: ");
-    out = put_number(out, value);
-    return put(out, ">");
-  });
+  return joined("<invalid value: ", value, ">");
 }
 
 // Characters of the longest set of flags.
@@ -272,20 +283,12 @@ template <class Bits> const char *bits_text(Bits value) {
   });
 }
 
-template <class Integer> const char *number_text(Integer value) {
-  return build_text<digits>([&](char *out) { return put_number(out, value); });
-}
-
-template <class Integer, std::size_t Size> const char *number_text(Integer value, const char (&unit)[Size]) {
-  return build_text<digits + Size>([&](char *out) { return put(put_number(out, value), unit); });
-}
-
 constexpr const char *invalid = "INVALID";
 
 } // namespace
 
 const char *ravix_str_frequency(uint32_t frequency) {
-  return frequency == RAVIX_FREQUENCY_INVALID ? invalid : number_text(frequency, " kHz");
+  return frequency == RAVIX_FREQUENCY_INVALID ? invalid : joined(frequency, " kHz");
 }
 
 const char *ravix_str_wifi_freq(uint32_t frequency) {
@@ -293,39 +296,30 @@ const char *ravix_str_wifi_freq(uint32_t frequency) {
   if (channel == 0) {
     return ravix_str_frequency(frequency);
   }
-  return build_text<2 * digits + 7>([&](char *out) {
-    out = put_padded<4>(out, frequency / 1000);
-    out = put(out, " MHz (");
-    out = put_padded<3>(out, channel);
-    return put(out, ")");
-  });
+  return joined(padded<4>{frequency / 1000}, " MHz (", padded<3>{channel}, ")");
 }
 
 const char *ravix_str_bitrate(uint32_t bitrate) {
-  return number_text(bitrate, " kbit/s");
+  return joined(bitrate, " kbit/s");
 }
 
 const char *ravix_str_power(int32_t power) {
-  return power == RAVIX_POWER_INVALID ? invalid : number_text(power, " dBm");
+  return power == RAVIX_POWER_INVALID ? invalid : joined(power, " dBm");
 }
 
 const char *ravix_str_percentage(uint32_t percentage) {
   if (percentage <= 100) {
-    return number_text(percentage, "%");
+    return joined(percentage, "%");
   }
   if (percentage == RAVIX_MEASURE_INVALID) {
     return invalid;
   }
   // Unlike the form for enumerations, so that a log tells a measure that is out of range from a value without a name.
-  return build_text<digits + 18>([&](char *out) {
-    out = put(out, "<invalid value '");
-    out = put_number(out, percentage);
-    return put(out, "'>");
-  });
+  return joined("<invalid value '", percentage, "'>");
 }
 
 const char *ravix_str_anpi(uint8_t anpi) {
-  return anpi == RAVIX_MEASURE_INVALID ? invalid : number_text(uint32_t{anpi});
+  return anpi == RAVIX_MEASURE_INVALID ? invalid : joined(uint32_t{anpi});
 }
 
 const char *ravix_str_rcpi(uint8_t rcpi) {
@@ -337,13 +331,13 @@ const char *ravix_str_rsni(uint8_t rsni) {
 }
 
 const char *ravix_str_index(int32_t index) {
-  return index == RAVIX_INDEX_INVALID ? invalid : number_text(index);
+  return index == RAVIX_INDEX_INVALID ? invalid : joined(index);
 }
 
 const char *ravix_str_id(int32_t id) {
   // None above 0 is reserved.
   const char *name = id <= RAVIX_ID_INVALID ? find_name(id_names, id) : nullptr;
-  return name != nullptr ? name : number_text(id);
+  return name != nullptr ? name : joined(id);
 }
 
 const char *ravix_str_timestamp(int64_t timestamp) {
@@ -399,7 +393,7 @@ const char *ravix_str_ip_addr(const ravix_ip_addr_t *value) {
   case RAVIX_IP_VERSION_4:
     return build_text<4 * digits>([&](char *out) {
       for (unsigned i = 0; i < 3; ++i) {
-        out = put_number(out, octet[i]);
+        out = put(out, octet[i]);
         *out++ = '.';
       }
       return put_last_number(out, octet[3]);
@@ -454,8 +448,7 @@ const char *ravix_str_ssid(const ravix_ssid_t *value, bool hex_if_unprintable) {
       }
       *out++ = ']';
     }
-    out = put(out, " (len=");
-    out = put_number(out, uint32_t{value->len});
+    out = put(put(out, " (len="), uint32_t{value->len});
     return put(out, ")");
   });
 }
@@ -470,17 +463,17 @@ const char *ravix_str_channel_info(const ravix_channel_info_t *value) {
   ravix_channel_info_to_lowest_and_highest_channel(value, &lowest, &highest);
   const uint32_t width = ravix_channel_width_to_frequency(value->channel_width) / 1000;
   return build_text<6 * digits>([&](char *out) {
-    out = put_padded<4>(out, value->primary_freq / 1000);
+    out = put(out, padded<4>{value->primary_freq / 1000});
     *out++ = '/';
-    out = put_padded<4>(out, value->center_freq / 1000);
+    out = put(out, padded<4>{value->center_freq / 1000});
     *out++ = '/';
-    out = width != 0 ? put_padded<3>(out, width) : put(out, "INV");
+    out = width != 0 ? put(out, padded<3>{width}) : put(out, "INV");
     *out++ = '/';
     out = put_hex_group(out, value->puncture_map, true);
     *out++ = '/';
-    out = put_padded<3>(out, lowest);
+    out = put(out, padded<3>{lowest});
     *out++ = '-';
-    return put_padded<3>(out, highest);
+    return put(out, padded<3>{highest});
   });
 }
 

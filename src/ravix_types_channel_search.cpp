@@ -1,6 +1,6 @@
 // What is asked of a channel list and of whole channels, and tells in the log why it fails. Its lines carry the source
 // path of the arithmetic that it builds on, by which log filters know them.
-#include "ravix_types_log.hpp"
+#include "ravix_types_generic_simple.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
 
@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <span>
 
-using zel::ravix::call_site;
+using zel::ravix::are_given;
 using zel::ravix::log_error;
 using zel::ravix::log_invalid_pointer;
 
@@ -39,11 +39,6 @@ void note_clearance(const ravix_channel_entry_t *entry, void *context, uint32_t 
   found->clear = found->clear && (entry->state & found->state_mask) == 0;
 }
 
-int invalid_pointer(call_site site, const char *argument) {
-  log_invalid_pointer(site, argument);
-  return -EINVAL;
-}
-
 } // namespace
 
 int ravix_create_channel_info_auto(uint32_t primary_freq, uint16_t channel_width, bool ext_high, uint16_t puncture_map,
@@ -64,14 +59,12 @@ int ravix_create_channel_info_auto(uint32_t primary_freq, uint16_t channel_width
 
 int ravix_channel_info_check_range(const ravix_channel_list_t *chan_list, const ravix_channel_info_t *channel_info,
                                    ravix_channel_visitor_t chan_check_fct, void *context) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
+  if (!are_given(chan_list, "chan_list", channel_info, "channel_info", here)) {
+    return -EINVAL;
   }
   if (chan_check_fct == nullptr) {
-    return invalid_pointer(here, "chan_check_fct");
+    log_invalid_pointer(here, "chan_check_fct");
+    return -EINVAL;
   }
   if (!ravix_channel_info_is_valid(channel_info)) {
     log_error(here, "channel_info is not valid!");
@@ -91,14 +84,12 @@ int ravix_channel_info_check_range(const ravix_channel_list_t *chan_list, const 
 
 int ravix_channel_is_clear(const ravix_channel_list_t *chan_list, const ravix_channel_info_t *channel_info,
                            uint32_t state_mask, bool *clear) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
+  if (!are_given(chan_list, "chan_list", channel_info, "channel_info", here)) {
+    return -EINVAL;
   }
   if (clear == nullptr) {
-    return invalid_pointer(here, "chan_check_fct"); // named after the visitor, which every log reader knows it by
+    log_invalid_pointer(here, "chan_check_fct"); // named after the visitor, which every log reader knows it by
+    return -EINVAL;
   }
   clearance found = {state_mask, true};
   const bool walked = ravix_channel_info_check_range(chan_list, channel_info, note_clearance, &found) >= 0;
@@ -108,11 +99,8 @@ int ravix_channel_is_clear(const ravix_channel_list_t *chan_list, const ravix_ch
 
 int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint32_t primary_freq, uint32_t state_mask,
                                      bool ext_high, uint16_t max_width, ravix_channel_info_t *channel_info) {
-  if (chan_list == nullptr) {
-    return invalid_pointer(here, "chan_list");
-  }
-  if (channel_info == nullptr) {
-    return invalid_pointer(here, "channel_info");
+  if (!are_given(chan_list, "chan_list", channel_info, "channel_info", here)) {
+    return -EINVAL;
   }
   *channel_info = {};
   const auto list = entries(*chan_list);

@@ -5,45 +5,30 @@
 #include <cstring>
 
 namespace {
-
 constexpr const char *here = "src/ravix_types_common";
+}
 
-// Element operations of the text table.
-void string_clear(char **slot) {
+// Owned texts as elements of a table; a failed copy is known to log filters by the name "string_copy".
+void zel::ravix::element<char *>::clear(char **slot) {
   slab_cbcontext_free(*slot, here, __LINE__);
   *slot = nullptr;
 }
 
-int string_copy(const char *const *src, char **dest) {
-  using namespace zel::ravix;
-  if (src == nullptr) {
-    log_invalid_pointer(here, "src");
+int zel::ravix::element<char *>::copy(const char *const *src, char **dest) {
+  const call_site site = {here, "string_copy"};
+  if (!are_given(src, "src", dest, "dest", site)) {
     return invalid_argument;
   }
-  if (dest == nullptr) {
-    log_invalid_pointer(here, "dest");
-    return invalid_argument;
-  }
-  string_clear(dest);
+  clear(dest);
   if (*src == nullptr) {
     return success;
   }
   *dest = slab_dstrdup(*src, here, __LINE__);
   if (*dest == nullptr) {
-    log_error(here, "No memory available!");
+    log_error(site, "No memory available!");
     return out_of_memory;
   }
   return success;
-}
-
-} // namespace
-
-void zel::ravix::element<char *>::clear(char **slot) {
-  string_clear(slot);
-}
-
-int zel::ravix::element<char *>::copy(const char *const *src, char **dest) {
-  return string_copy(src, dest);
 }
 
 #define RAVIX_COMMON_RECORD RAVIX_DEFINE

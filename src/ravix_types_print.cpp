@@ -95,16 +95,13 @@ void printer::quoted(const char *piece) {
     text(null_text);
     return;
   }
-  text("\"");
-  text(piece);
-  text("\"");
+  texts("\"", piece, "\"");
 }
 
 void printer::label(const char *name, const char *after, unsigned indent) {
   blanks(indent);
   if (name != nullptr) {
-    text(name);
-    text(after);
+    texts(name, after);
   }
 }
 
@@ -123,9 +120,7 @@ void printer::index(std::uint32_t i, std::uint32_t count) {
 }
 
 void printer::header(const char *word, std::uint32_t i) {
-  text("[");
-  text(word);
-  text(" ");
+  texts("[", word, " ");
   decimal(i);
   text("]:\n");
 }

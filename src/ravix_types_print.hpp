@@ -71,6 +71,7 @@ public:
   void flush();
 
   void text(std::string_view piece);
+  template <class... Pieces> void texts(Pieces... pieces) { (text(pieces), ...); }
   void blanks(std::size_t count);
   void left(std::string_view piece, std::size_t width);
   void right(std::string_view piece, std::size_t width);
@@ -94,9 +95,7 @@ public:
   template <class R> void lines(const R &r) {
     const char *separator = " ";
     for_each_field<R>([&](const auto &field) {
-      text(separator);
-      text(field.name);
-      text(": ");
+      texts(separator, field.name, ": ");
       field.print(*this, r);
       separator = "\n ";
     });

@@ -20,20 +20,13 @@ template <class Print> std::ostream &print(std::ostream &os, Print what) {
 // ---- scan listing
 
 void show(printer &out, const ravix_scan_entry_t &entry, bool hide_ssid = false) {
-  out.text("'");
-  out.text(ravix_str_mac(entry.bssid));
-  out.text("' ");
-  out.value(entry.channel_info);
-  out.text(" ");
+  out.texts("'", ravix_str_mac(entry.bssid), "' ", ravix_str_channel_info(&entry.channel_info), " ");
   if (!hide_ssid) {
     out.left(zel::ravix::value_text(entry.ssid), 44);
     out.text(" ");
   }
   out.right(ravix_str_power(entry.rssi), 6);
-  out.text(" ");
-  out.text(ravix_str_wlan_mode(entry.wlan_mode));
-  out.text(" ");
-  out.text(ravix_str_capabilities(entry.capabilities));
+  out.texts(" ", ravix_str_wlan_mode(entry.wlan_mode), " ", ravix_str_capabilities(entry.capabilities));
 }
 
 void show(printer &out, const ravix_scan_table_t &table, bool hide_ssid = false) {
@@ -56,12 +49,8 @@ void show(printer &out, const ravix_channel_entry_t &entry) {
   out.left(ravix_str_wifi_freq(entry.frequency), 14);
   out.text(" ");
   out.right(ravix_str_power(entry.max_power), 6);
-  out.text(" ");
-  out.text(ravix_str_channel_capabilities(entry.capabilities));
-  out.text(" ");
-  out.text(ravix_str_channel_state(entry.state));
-  out.text(" ");
-  out.text(ravix_str_channel_user_flags(entry.user_flags));
+  out.texts(" ", ravix_str_channel_capabilities(entry.capabilities), " ", ravix_str_channel_state(entry.state), " ",
+            ravix_str_channel_user_flags(entry.user_flags));
 }
 
 void show(printer &out, const ravix_radio_load_entry_t &entry) {
@@ -97,9 +86,7 @@ void show(printer &out, const ravix_radio_airtime_table_t &table) {
 }
 
 void show(printer &out, const ravix_scan_results_t &results, bool hide_ssid = false) {
-  out.text("Scan time: ");
-  out.text(ravix_str_timestamp(results.scan_time));
-  out.text("\nNoisefloor table:\n");
+  out.texts("Scan time: ", ravix_str_timestamp(results.scan_time), "\nNoisefloor table:\n");
   show(out, results.noisefloor_table);
   out.text("\nScan table:\n");
   show(out, results.scan_table, hide_ssid);
@@ -119,8 +106,7 @@ void show(printer &out, const ravix_scan_parameter_t &parameter) {
 template <class T> void labelled(printer &out, const char *label, const T *value) {
   out.text(label);
   if (value == nullptr) {
-    out.text(" ");
-    out.text(printer::null_text);
+    out.texts(" ", printer::null_text);
   } else {
     out.text("\n");
     show(out, *value);
@@ -128,20 +114,17 @@ template <class T> void labelled(printer &out, const char *label, const T *value
 }
 
 void show(printer &out, const ravix_start_scan_request_t &request) {
-  out.text(" radio_id: ");
-  out.text(ravix_str_id(request.radio_id));
+  out.texts(" radio_id: ", ravix_str_id(request.radio_id));
   labelled(out, "\nScan parameter:", request.scan_parameter);
 }
 
 void show(printer &out, const ravix_get_scan_results_response_t &response) {
-  out.text(" status: ");
-  out.text(ravix_str_status(response.status));
+  out.texts(" status: ", ravix_str_status(response.status));
   labelled(out, "\n scan_results:", response.scan_results);
 }
 
 void show(printer &out, const ravix_event_scan_results_t &event) {
-  out.text("Radio ID: ");
-  out.text(ravix_str_id(event.radio_id));
+  out.texts("Radio ID: ", ravix_str_id(event.radio_id));
   labelled(out, "\nScan parameter:", event.scan_parameter);
   labelled(out, "\nScan results:", event.scan_results);
 }

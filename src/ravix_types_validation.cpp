@@ -150,23 +150,33 @@ private:
     log_error({site_.path, site_.function, line}, parts);
   }
 
+  // An entry that violates a rule, and the line that says so.
+  struct place {
+    uint32_t frequency;
+    int line;
+
+    place(uint32_t entry_frequency, int line_number = __builtin_LINE()) // NOLINT(google-explicit-constructor)
+        : frequency(entry_frequency), line(line_number) {}
+  };
+  template <class... Parts> [[gnu::cold]] void violated_at(place at, rule broken, const Parts &...parts) {
+    violated(broken, {"In frequency ", ravix_str_wifi_freq(at.frequency), ": ", parts...}, at.line);
+  }
+
   void check_frequency(std::size_t index) {
     const uint32_t frequency = entries_[index].frequency;
     if (!ravix_frequency_is_primary(frequency)) {
       violated(invalid_freq, {ravix_str_wifi_freq(frequency), " is not a valid primary frequency!"});
     }
     if (ravix_frequency_to_radio_band(frequency) != band_) {
-      violated(radio_mismatch, {"In frequency ", ravix_str_wifi_freq(frequency),
-                                ": radio band is different to the radio band of the first frequency ",
-                                ravix_str_wifi_freq(entries_.front().frequency), "!"});
+      violated_at(frequency, radio_mismatch, "radio band is different to the radio band of the first frequency ",
+                  ravix_str_wifi_freq(entries_.front().frequency), "!");
     }
     if (index < unique_from_) {
       check_duplicates(index);
     }
     if (index + 1 < entries_.size() && frequency > entries_[index + 1].frequency) {
-      violated(invalid_order, {"In frequency ", ravix_str_wifi_freq(frequency),
-                               ": ascending order is violated, the following frequency ",
-                               ravix_str_wifi_freq(entries_[index + 1].frequency), " is smaller!"});
+      violated_at(frequency, invalid_order, "ascending order is violated, the following frequency ",
+                  ravix_str_wifi_freq(entries_[index + 1].frequency), " is smaller!");
     }
   }
 
@@ -182,24 +192,21 @@ private:
 
   void check_power(const ravix_channel_entry_t &entry) {
     if (entry.max_power != RAVIX_POWER_INVALID && (entry.max_power < 0 || entry.max_power > highest_power)) {
-      violated(invalid_power, {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": maxregpower (",
-                               decimal(entry.max_power), ") is out of range!"});
+      violated_at(entry.frequency, invalid_power, "maxregpower (", decimal(entry.max_power), ") is out of range!");
     }
   }
 
   void check_capabilities_and_state(const ravix_channel_entry_t &entry) {
     const uint32_t dfs = entry.capabilities & dfs_capabilities;
     if (dfs != 0 && ravix_frequency_to_radio_band(entry.frequency) != RAVIX_RADIO_BAND_5GHZ) {
-      violated(invalid_dfs, {"In frequency ", ravix_str_wifi_freq(entry.frequency),
-                             ": a DFS flag is set for a non 5GHz frequency!"});
+      violated_at(entry.frequency, invalid_dfs, "a DFS flag is set for a non 5GHz frequency!");
       return; // a mark that makes no sense would only bring lines that do not either
     }
     if (dfs == dfs_capabilities) {
-      violated(invalid_dfs,
-               {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": DFS and DFS_WEATHER are both set!"});
+      violated_at(entry.frequency, invalid_dfs, "DFS and DFS_WEATHER are both set!");
     }
     if ((entry.capabilities & RAVIX_CHANNEL_CAP_HT20) == 0) {
-      violated(no_ht20, {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": HT20 is not set!"});
+      violated_at(entry.frequency, no_ht20, "HT20 is not set!");
     }
     for (const state_rule &row : state_rules) {
       if ((entry.state & row.flag) != 0) {
@@ -210,26 +217,22 @@ private:
 
   void check_state_flag(const ravix_channel_entry_t &entry, const state_rule &row, bool dfs) {
     if (row.dfs_only && !dfs) {
-      violated(state_flag_mismatch, {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": ",
-                                     ravix_str_channel_state(row.flag), " is set on non DFS channel!"});
+      violated_at(entry.frequency, state_flag_mismatch, ravix_str_channel_state(row.flag),
+                  " is set on non DFS channel!");
     }
     const uint32_t companions = entry.state & row.forbidden;
     if (companions != 0) {
-      violated(state_flag_mismatch,
-               {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": ", ravix_str_channel_state(row.flag),
-                " is set alongside of ", ravix_str_channel_state(companions), "!"});
+      violated_at(entry.frequency, state_flag_mismatch, ravix_str_channel_state(row.flag), " is set alongside of ",
+                  ravix_str_channel_state(companions), "!");
     }
     if (row.flag == active && !has_primary_) {
-      violated(no_primary_flag,
-               {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": ACTIVE is set and PRIMARY is set nowhere!"});
+      violated_at(entry.frequency, no_primary_flag, "ACTIVE is set and PRIMARY is set nowhere!");
     }
     if (row.flag == active && dfs && (entry.state & dfs_clear) == 0) {
-      violated(active_on_not_cleared,
-               {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": DFS_CLEAR not set on ACTIVE DFS channel!"});
+      violated_at(entry.frequency, active_on_not_cleared, "DFS_CLEAR not set on ACTIVE DFS channel!");
     }
     if (row.flag == pri_chan && (entry.state & active) == 0) {
-      violated(primary_without_active,
-               {"In frequency ", ravix_str_wifi_freq(entry.frequency), ": PRIMARY is set without ACTIVE!"});
+      violated_at(entry.frequency, primary_without_active, "PRIMARY is set without ACTIVE!");
     }
   }
 
@@ -240,8 +243,7 @@ private:
       lowest_ = lowest_ == 0 ? entry.frequency : lowest_;
       highest_ = std::max(highest_, entry.frequency);
       if (gap_ != 0) {
-        violated(active_gap, {"In frequency ", ravix_str_wifi_freq(entry.frequency),
-                              ": a gap of channels marked as ACTIVE is detected!"});
+        violated_at(entry.frequency, active_gap, "a gap of channels marked as ACTIVE is detected!");
         gap_ = 0;
       }
     } else if (highest_ != 0 && gap_ == 0) {
@@ -257,8 +259,7 @@ private:
       if (primary_ == 0) {
         primary_ = entry.frequency;
       } else {
-        violated(many_primary_flags, {"In frequency ", ravix_str_wifi_freq(entry.frequency),
-                                      ": PRIMARY is already set on another channel!"});
+        violated_at(entry.frequency, many_primary_flags, "PRIMARY is already set on another channel!");
       }
     }
   }

@@ -262,22 +262,11 @@ const char *flags_text(const name_table<Mask, Count, Characters> &table, Mask va
 
 // --- Values ---
 
-// '0' and '1' for each value of four bits.
-constexpr auto bit_digits = [] {
-  std::array<char, 64> text{};
-  for (unsigned value = 0; value < 16; ++value) {
-    for (unsigned bit = 0; bit < 4; ++bit) {
-      text[value * 4 + bit] = (value >> (3 - bit) & 1U) != 0 ? '1' : '0';
-    }
-  }
-  return text;
-}();
-
 template <class Bits> const char *bits_text(Bits value) {
   constexpr unsigned width = std::numeric_limits<Bits>::digits;
   return build_text<width>([&](char *out) {
-    for (unsigned at = 0; at < width; at += 4) {
-      std::memcpy(out + at, &bit_digits[std::size_t{4} * (value >> (width - 4 - at) & 0xF)], 4);
+    for (unsigned at = 0; at < width; ++at) {
+      out[at] = static_cast<char>('0' + (value >> (width - 1 - at) & 1));
     }
     return out + width;
   });

@@ -2,8 +2,6 @@
 
 #include "ravix_types_define.hpp"
 
-#include <cstring>
-
 namespace {
 constexpr const char *here = "src/ravix_types_common";
 }

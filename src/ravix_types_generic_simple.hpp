@@ -5,7 +5,6 @@
 #include "zelcsock/slab.h"
 
 #include <cstddef>
-#include <cstring>
 
 // Where size counts, what records have in common but for a size and a name is one function for all of them
 // (RAVIX_SHARED). Where speed counts, a FLATTEN function takes in all that it calls. Without "hot", g++ would hold what

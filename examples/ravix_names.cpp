@@ -81,52 +81,15 @@ template <class Value> std::vector<named_value> flags(const char *(*text)(Value)
   return found;
 }
 
-#define RAVIX_VALUES(what)                                                                                             \
-  {                                                                                                                    \
-#what, false, [] { return values(ravix_str_##what); }                                                              \
-  }
-#define RAVIX_FLAGS(what)                                                                                              \
-  {                                                                                                                    \
-#what, true, [] { return flags(ravix_str_##what); }                                                                \
-  }
+#define RAVIX_VALUES(what, argument, shown) {#what, false, [] { return values(ravix_str_##what); }},
+#define RAVIX_FLAGS(what, argument) {#what, true, [] { return flags(ravix_str_##what); }},
 
 const std::vector<name_list> lists{
-    RAVIX_VALUES(id),
-    RAVIX_VALUES(status),
-    RAVIX_VALUES(enabled),
-    RAVIX_VALUES(device_class),
-    RAVIX_VALUES(encryption),
-    RAVIX_VALUES(encryption_akm),
-    RAVIX_VALUES(encryption_cipher_suite),
-    RAVIX_VALUES(encryption_group_mgmt_cipher),
-    RAVIX_VALUES(pmf_mode),
-    RAVIX_VALUES(pwe_mode),
-    RAVIX_VALUES(radio_band),
-    RAVIX_VALUES(radio_sub_band),
-    RAVIX_VALUES(mac_access_type),
-    RAVIX_VALUES(simulated_event_type),
-    RAVIX_VALUES(role_opmode),
-    RAVIX_VALUES(station_type),
-    RAVIX_VALUES(sta_state),
-    RAVIX_VALUES(special_handling_trigger),
-    RAVIX_VALUES(security),
-    RAVIX_VALUES(role_state),
-    RAVIX_VALUES(radar_type),
-    RAVIX_VALUES(event),
-    RAVIX_VALUES(device_opmode),
-    RAVIX_VALUES(connect_status),
-    RAVIX_VALUES(connect_method),
-    RAVIX_VALUES(channel_width),
-    RAVIX_VALUES(channel_change_reason),
-    RAVIX_VALUES(param_id),
-    RAVIX_FLAGS(channel_capabilities),
-    RAVIX_FLAGS(wlan_mode),
-    RAVIX_FLAGS(channel_user_flags),
-    RAVIX_FLAGS(event_log_control),
-    RAVIX_FLAGS(mlo_mode),
-    RAVIX_FLAGS(features),
-    RAVIX_FLAGS(channel_state),
-    RAVIX_FLAGS(capabilities),
+    {"id", false, [] { return values(ravix_str_id); }},
+    {"status", false, [] { return values(ravix_str_status); }},
+    {"enabled", false, [] { return values(ravix_str_enabled); }},
+    RAVIX_ENUMERATIONS(RAVIX_VALUES) //
+    RAVIX_FLAG_SETS(RAVIX_FLAGS)     //
 };
 
 void print_table(const name_list &list) {

@@ -7,6 +7,9 @@ set(ravix_data_dir ${CMAKE_INSTALL_DATADIR}/ravix_types)
 
 # Of each library both kinds, its headers, and its part of the CMake package; a library stands after those that it uses.
 set(ravix_libraries ravix_types)
+if(RAVIX_BUILD_JSON)
+  list(APPEND ravix_libraries ravix_types_json)
+endif()
 if(RAVIX_PLATFORM STREQUAL "bundled")
   list(PREPEND ravix_libraries zelcsock)
 else()
@@ -52,6 +55,10 @@ function(ravix_pkg_config target)
 endfunction()
 
 ravix_pkg_config(ravix_types DESCRIPTION ${PROJECT_DESCRIPTION} LIBRARIES zelcsock)
+if(RAVIX_BUILD_JSON)
+  ravix_pkg_config(ravix_types_json DESCRIPTION "Records of the ravix WLAN control interface as JSON" REQUIRES ravix_types
+                                    LIBRARIES zelcsock)
+endif()
 
 configure_package_config_file(cmake/ravix_types-config.cmake.in ${PROJECT_BINARY_DIR}/cmake/ravix_types-config.cmake
                               INSTALL_DESTINATION ${ravix_package_dir})

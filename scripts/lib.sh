@@ -125,7 +125,7 @@ build() {
 
 # All C and C++ files of the project, one a line.
 cxx_files() {
-  find include src platform examples tests fuzz bench -name '*.[ch]pp' -o -name '*.[ch]' 2>/dev/null | sort
+  find include src json platform examples tests fuzz bench -name '*.[ch]pp' -o -name '*.[ch]' 2>/dev/null | sort
 }
 
 # The cross compiler of cmake/zig_musl.cmake and what runs its programs here. The compiler stays in build-zig/, and so does

@@ -87,6 +87,7 @@ void register_parsers();
 void register_radio();
 void register_records();
 void register_printers();
+void register_json();
 void register_growth();
 
 } // namespace bench

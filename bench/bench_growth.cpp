@@ -2,6 +2,7 @@
 #include "bench.hpp"
 #include "inputs.hpp"
 
+#include "ravix_types_json.h"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_validation.h"
 
@@ -56,6 +57,15 @@ void register_growth() {
     std::ostringstream stream;
     print_scan_table(stream, results.scan_table, false);
     keep(stream);
+  });
+  growth("json", networks, [](const ravix_scan_results_t &results) {
+    std::size_t octets = 0;
+    const auto count = [](const char *, std::size_t length, void *context) {
+      *static_cast<std::size_t *>(context) += length;
+      return 0;
+    };
+    ravix_types_scan_results_to_json(&results, count, &octets);
+    keep(octets);
   });
   growth("validate", ascending_list, [](const ravix_channel_list_t &list) {
     benchmark::DoNotOptimize(ravix_validate_channel_list(&list, nullptr));

@@ -29,11 +29,6 @@ void add_mac(pieces &out, const char *format, const std::uint8_t *o) {
   out.add(format, o[0], o[1], o[2], o[3], o[4], o[5]);
 }
 
-struct flag {
-  std::uint32_t mask;
-  const char *name;
-};
-
 template <std::size_t Count> void add_flags(pieces &out, const flag (&flags)[Count], std::uint32_t value) {
   out.add("[ ");
   for (const flag &each : flags) {
@@ -43,16 +38,6 @@ template <std::size_t Count> void add_flags(pieces &out, const flag (&flags)[Cou
   }
   out.add("]");
 }
-
-constexpr flag modes[] = {{RAVIX_WLAN_MODE_11A, "11A"},
-                          {RAVIX_WLAN_MODE_11N, "11N"},
-                          {RAVIX_WLAN_MODE_11AC, "11AC"},
-                          {RAVIX_WLAN_MODE_11AX, "11AX"}};
-constexpr flag capabilities[] = {{RAVIX_CAPABILITY_WPA2_PSK, "WPA2_PSK"},
-                                 {RAVIX_CAPABILITY_WPA3_PSK, "WPA3_PSK"},
-                                 {RAVIX_CAPABILITY_PMF, "PMF"},
-                                 {RAVIX_CAPABILITY_5GHZ, "5GHZ"},
-                                 {RAVIX_CAPABILITY_WME, "WME"}};
 
 std::string printed_listing(const ravix_scan_table_t &table) {
   pieces out;

@@ -43,6 +43,22 @@ inline ravix_ssid_t ssid_of(const char *text) {
   return ssid;
 }
 
+struct flag {
+  std::uint32_t mask;
+  const char *name;
+};
+
+// The flags that the networks below have.
+inline constexpr flag modes[] = {{RAVIX_WLAN_MODE_11A, "11A"},
+                                 {RAVIX_WLAN_MODE_11N, "11N"},
+                                 {RAVIX_WLAN_MODE_11AC, "11AC"},
+                                 {RAVIX_WLAN_MODE_11AX, "11AX"}};
+inline constexpr flag capabilities[] = {{RAVIX_CAPABILITY_WPA2_PSK, "WPA2_PSK"},
+                                        {RAVIX_CAPABILITY_WPA3_PSK, "WPA3_PSK"},
+                                        {RAVIX_CAPABILITY_PMF, "PMF"},
+                                        {RAVIX_CAPABILITY_5GHZ, "5GHZ"},
+                                        {RAVIX_CAPABILITY_WME, "WME"}};
+
 inline ravix_scan_entry_t scan_entry(std::uint32_t i) {
   ravix_scan_entry_t entry{};
   const auto octet = [=](unsigned shift) { return static_cast<std::uint8_t>(i >> shift); };

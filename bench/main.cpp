@@ -10,6 +10,7 @@ int main(int argc, char **argv) {
   bench::register_radio();
   bench::register_records();
   bench::register_printers();
+  bench::register_json();
   bench::register_growth();
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) {

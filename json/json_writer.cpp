@@ -81,6 +81,18 @@ void writer::flush() {
   }
 }
 
+void writer::null() {
+  raw("null");
+}
+
+void writer::nothing() {
+  raw("{}");
+}
+
+void writer::boolean(bool value) {
+  raw(value ? std::string_view("true") : std::string_view("false"));
+}
+
 void writer::number(float value) {
   if (!std::isfinite(value)) {
     null();

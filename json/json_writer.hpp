@@ -52,9 +52,9 @@ public:
   // Ends the text; 0 or the negative result of a write. After such a result nothing more has been written.
   int finish();
 
-  void null() { raw("null"); }
-  void nothing() { raw("{}"); } // an object without members
-  void boolean(bool value) { raw(value ? std::string_view("true") : std::string_view("false")); }
+  void null();
+  void nothing(); // an object without members
+  void boolean(bool value);
   template <std::integral T> void number(T value) {
     if constexpr (std::signed_integral<T>) {
       magnitude(value < 0, static_cast<std::uint64_t>(value));

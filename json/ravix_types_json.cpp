@@ -337,7 +337,9 @@ bool are_given(const void *record, const char *name, ravix_json_write_t write, c
   return zel::ravix::are_given(record, name, reinterpret_cast<const void *>(write), "write", site);
 }
 
-int to_json(const void *obj, write_function record, ravix_json_write_t write, void *context, call_site site) {
+// The two below are not taken into all those that call them.
+[[gnu::noinline]] int to_json(const void *obj, write_function record, ravix_json_write_t write, void *context,
+                              call_site site) {
   if (!are_given(obj, "obj", write, site)) {
     return invalid_argument;
   }
@@ -356,8 +358,8 @@ template <class R> void write_difference(writer &out, const void *value, const v
   }
 }
 
-int diff_to_json(const void *value, const void *reference, diff_function record, ravix_json_write_t write,
-                 void *context, call_site site) {
+[[gnu::noinline]] int diff_to_json(const void *value, const void *reference, diff_function record,
+                                   ravix_json_write_t write, void *context, call_site site) {
   if (!zel::ravix::are_given(value, "value", reference, "reference", site) ||
       !are_given(reference, "reference", write, site)) {
     return invalid_argument;

@@ -93,7 +93,8 @@ need_clang_tools() {
 # What the benchmarks need besides.
 need_bench_tools() {
   need_build_tools /usr/include/benchmark/benchmark.h=libbenchmark-dev /usr/include/fmt/compile.h=libfmt-dev \
-    protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev
+    protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev \
+    /usr/include/rapidjson/writer.h=rapidjson-dev /usr/include/nlohmann/json.hpp=nlohmann-json3-dev
 }
 
 # Where a preset builds.

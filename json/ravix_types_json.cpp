@@ -156,34 +156,11 @@ template <class T, class Meaning> void write_entries(writer &out, const void *at
 
 // ---- kinds of field
 
-template <auto Member, class Meaning> constexpr write_function write_of(const scalar<Member, Meaning> & /*field*/) {
-  return write_scalar<typename scalar<Member, Meaning>::value, decltype(plain_meaning<Meaning>())>;
-}
-template <auto Member, class Meaning> constexpr write_function write_of(const array<Member, Meaning> & /*field*/) {
-  if constexpr (Meaning::kind == value_kind::octets) {
-    return write_octets<Meaning>;
-  } else {
-    return write_values<array<Member, Meaning>::size, Meaning>;
-  }
-}
-template <auto Member> constexpr write_function write_of(const bounded_text<Member> & /*field*/) {
-  return write_bounded_text<bounded_text<Member>::size>;
-}
-template <auto Member> constexpr write_function write_of(const owned_text<Member> & /*field*/) {
-  return write_owned_text;
-}
-template <auto Member> constexpr write_function write_of(const nested<Member> & /*field*/) {
-  return write_record<value_of<Member>>;
-}
-template <auto Member> constexpr write_function write_of(const owned<Member> & /*field*/) {
-  return write_owned<typename owned<Member>::T>;
-}
-template <class T, class Meaning> constexpr write_function write_of(const entries<T, Meaning> & /*field*/) {
-  return write_entries<T, Meaning>;
-}
-template <class Kind> constexpr write_function write_of(const secret<Kind> & /*field*/) {
-  return write_secret;
-}
+// How a field's value is written, and what differs in it; null where it stands whole in a difference.
+struct field_functions {
+  write_function write;
+  diff_function diff = nullptr;
+};
 
 // Records that have differences of their own.
 template <class R>
@@ -191,18 +168,44 @@ concept compared_object = object_record<R> && requires {
   operations<R>::compare;
 };
 
-constexpr diff_function diff_of(const auto & /*field*/) {
-  return nullptr;
+template <auto Member, class Meaning>
+constexpr field_functions functions_of(const scalar<Member, Meaning> & /*field*/) {
+  return {write_scalar<typename scalar<Member, Meaning>::value, decltype(plain_meaning<Meaning>())>};
 }
-template <auto Member>
-requires compared_object<value_of<Member>>
-constexpr diff_function diff_of(const nested<Member> & /*field*/) {
-  return diff_record<value_of<Member>>;
+template <auto Member, class Meaning> constexpr field_functions functions_of(const array<Member, Meaning> & /*field*/) {
+  if constexpr (Meaning::kind == value_kind::octets) {
+    return {write_octets<Meaning>};
+  } else {
+    return {write_values<array<Member, Meaning>::size, Meaning>};
+  }
 }
-template <auto Member>
-requires compared_object<typename owned<Member>::T>
-constexpr diff_function diff_of(const owned<Member> & /*field*/) {
-  return diff_owned<typename owned<Member>::T>;
+template <auto Member> constexpr field_functions functions_of(const bounded_text<Member> & /*field*/) {
+  return {write_bounded_text<bounded_text<Member>::size>};
+}
+template <auto Member> constexpr field_functions functions_of(const owned_text<Member> & /*field*/) {
+  return {write_owned_text};
+}
+template <auto Member> constexpr field_functions functions_of(const nested<Member> & /*field*/) {
+  using T = typename nested<Member>::T;
+  if constexpr (compared_object<T>) {
+    return {write_record<T>, diff_record<T>};
+  } else {
+    return {write_record<T>};
+  }
+}
+template <auto Member> constexpr field_functions functions_of(const owned<Member> & /*field*/) {
+  using T = typename owned<Member>::T;
+  if constexpr (compared_object<T>) {
+    return {write_owned<T>, diff_owned<T>};
+  } else {
+    return {write_owned<T>};
+  }
+}
+template <class T, class Meaning> constexpr field_functions functions_of(const entries<T, Meaning> & /*field*/) {
+  return {write_entries<T, Meaning>};
+}
+template <class Kind> constexpr field_functions functions_of(const secret<Kind> & /*field*/) {
+  return {write_secret};
 }
 
 // A record that is part of another has been compiled for its own comparison already.
@@ -266,7 +269,8 @@ template <class R> constexpr auto rows_of() {
   auto *row = rows.begin();
   for_each_member<R>([&](const auto &field, auto /*is_present*/) {
     const std::size_t length = std::string_view(field.name).size() + 3;
-    *row++ = {write_of(field), diff_of(field), static_cast<std::uint16_t>(field.offset),
+    const field_functions functions = functions_of(field);
+    *row++ = {functions.write, functions.diff, static_cast<std::uint16_t>(field.offset),
               static_cast<std::uint8_t>(length)};
   });
   return rows;
@@ -318,7 +322,7 @@ template <class R> void write_record(writer &out, const void *at) {
   if constexpr (value_record<R>) {
     put_record(out, *static_cast<const R *>(at));
   } else if constexpr (bare_table<R>) {
-    write_of(std::get<0>(field_list<R>::fields))(out, at);
+    functions_of(std::get<0>(field_list<R>::fields)).write(out, at);
   } else {
     out.object(shape<R>, at);
   }

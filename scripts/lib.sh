@@ -81,7 +81,8 @@ need() {
 # What every build needs, and what is named besides.
 # shellcheck disable=SC2120 # mostly called without arguments
 need_build_tools() {
-  need cmake=cmake ninja=ninja-build g++=g++ make=make pkg-config=pkgconf /usr/include/gtest/gtest.h=libgtest-dev "$@"
+  need cmake=cmake ninja=ninja-build g++=g++ make=make pkg-config=pkgconf /usr/include/gtest/gtest.h=libgtest-dev \
+    /usr/include/nlohmann/json.hpp=nlohmann-json3-dev "$@"
 }
 
 # What clang's builds need besides; its sanitizers and fuzzer are in a package of their own.
@@ -94,7 +95,7 @@ need_clang_tools() {
 need_bench_tools() {
   need_build_tools /usr/include/benchmark/benchmark.h=libbenchmark-dev /usr/include/fmt/compile.h=libfmt-dev \
     protoc=protobuf-compiler /usr/include/google/protobuf/message.h=libprotobuf-dev \
-    /usr/include/rapidjson/writer.h=rapidjson-dev /usr/include/nlohmann/json.hpp=nlohmann-json3-dev
+    /usr/include/rapidjson/writer.h=rapidjson-dev
 }
 
 # Where a preset builds.

@@ -1,0 +1,517 @@
+// Records and their differences as JSON: every record as a strict reader reads it, beside what its field list says of
+// it; texts of all kinds; what stops a writer; and the lines of an indented text.
+#include "ravix_types_json.hpp"
+
+#include "golden.hpp"
+#include "json_tools.hpp"
+#include "specimens.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <iomanip>
+#include <ios>
+#include <limits>
+#include <locale>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+using harness::any_sample;
+using harness::json;
+using harness::json_diff;
+using harness::json_functions_of;
+using harness::json_text;
+using harness::randomness;
+using harness::record_type;
+using harness::record_types;
+using harness::sample;
+using harness::variety;
+using zel::ravix::value_kind;
+
+template <class Check> void for_each_type(Check check) {
+  for (const record_type *type : record_types()) {
+    SCOPED_TRACE(type->name);
+    check(*type);
+  }
+}
+
+template <class R> std::string text_of(const R &record, unsigned indent = 0) {
+  std::ostringstream stream;
+  print_json(stream, record, indent);
+  return stream.str();
+}
+template <class R> std::string diff_of(const R &value, const R &reference, unsigned indent = 0) {
+  std::ostringstream stream;
+  print_json_diff(stream, value, reference, indent);
+  return stream.str();
+}
+
+// ---- what the field lists say: names and addresses by the formatters, texts by another library
+
+struct collector {
+  std::string all;
+  void text(std::string_view piece) { all += piece; }
+  template <class T> void decimal(T number) { all += std::to_string(number); }
+};
+template <class Meaning> std::string shown(auto value) {
+  collector out;
+  Meaning::print(out, value);
+  return out.all;
+}
+
+std::string hex(const void *octets, std::size_t count) {
+  std::ostringstream digits;
+  digits << std::hex << std::setfill('0');
+  for (std::size_t i = 0; i < count; ++i) {
+    digits << std::setw(2) << unsigned{static_cast<const std::uint8_t *>(octets)[i]};
+  }
+  return digits.str();
+}
+
+template <class T> std::string hex_number(T value) {
+  std::ostringstream digits;
+  digits << "0x" << std::hex << value;
+  return digits.str();
+}
+
+// The library puts a mark in place of what is not UTF-8, and none of the tests' texts has it.
+bool is_text(const std::string &octets) {
+  const std::string dumped = json(octets).dump(-1, ' ', false, json::error_handler_t::replace);
+  return octets.find('\0') == std::string::npos && dumped.find("\xEF\xBF\xBD") == std::string::npos;
+}
+json text_value(const std::string &octets) {
+  return is_text(octets) ? json(octets) : json{{"hex", hex(octets.data(), octets.size())}};
+}
+
+template <class R> json value_of(const R &r);
+
+template <class Meaning, class T> json number_value(T value) {
+  if constexpr (Meaning::empty_is_none) {
+    if (value == static_cast<T>(Meaning::empty)) {
+      return nullptr;
+    }
+  }
+  if constexpr (Meaning::kind == value_kind::flags) {
+    json names = json::array();
+    std::istringstream words(shown<Meaning>(value));
+    for (std::string word; words >> word;) {
+      if (word != "[" && word != "]") {
+        names.push_back(word);
+      }
+    }
+    auto rest = std::uint64_t{value};
+    for (const auto mask : Meaning::names.values) {
+      rest &= ~std::uint64_t{mask};
+    }
+    if (rest != 0) {
+      names.push_back(hex_number(rest));
+    }
+    return names;
+  } else if constexpr (Meaning::kind == value_kind::flag) {
+    return value != 0;
+  } else if constexpr (Meaning::kind == value_kind::name || Meaning::kind == value_kind::identifier) {
+    const auto &named = Meaning::names.values;
+    const bool has_name = std::find(named.begin(), named.end(), static_cast<std::int32_t>(value)) != named.end();
+    const bool is_status = std::is_same_v<Meaning, zel::ravix::meaning::status>; // its bits, in whatever type
+    return has_name ? json(shown<Meaning>(value)) : is_status ? json(static_cast<std::int32_t>(value)) : json(value);
+  } else if constexpr (std::is_pointer_v<T>) {
+    return hex_number(reinterpret_cast<std::uintptr_t>(value));
+  } else {
+    return value;
+  }
+}
+
+template <class Meaning, class T> json member_value(const T &member) {
+  using pointee = std::remove_pointer_t<T>;
+  if constexpr (zel::ravix::has_fields<T>) {
+    return value_of(member);
+  } else if constexpr (std::is_pointer_v<T> && zel::ravix::has_fields<pointee>) {
+    return member != nullptr ? value_of(*member) : json();
+  } else if constexpr (std::is_same_v<T, char *>) {
+    return member != nullptr ? text_value(member) : json();
+  } else if constexpr (std::is_same_v<std::remove_extent_t<T>, char>) {
+    return text_value(std::string(member, strnlen(member, sizeof member)));
+  } else if constexpr (std::is_array_v<T>) {
+    json values = json::array();
+    if constexpr (Meaning::kind == value_kind::octets) {
+      return shown<Meaning>(&member[0]);
+    } else {
+      std::for_each(std::begin(member), std::end(member), [&](auto v) { values.push_back(number_value<Meaning>(v)); });
+    }
+    return values;
+  } else {
+    return number_value<Meaning>(zel::ravix::number_of(member));
+  }
+}
+
+template <class T, class Meaning> json field_value(const zel::ravix::entries<T, Meaning> & /*field*/, const T &table) {
+  json values = json::array();
+  for (std::uint32_t i = 0; i < zel::ravix::table::elements(table); ++i) {
+    values.push_back(member_value<Meaning>(table.data[i]));
+  }
+  return values;
+}
+template <class Kind, class R> json field_value(const Kind &field, const R &r) {
+  json value = "[SECRET]";
+  if constexpr (!requires { typename Kind::shown_as_secret; }) {
+    field.members(r, [&](const auto &member) { value = member_value<typename Kind::meaning>(member); });
+  }
+  return value;
+}
+
+template <class R> json value_of(const R &r) {
+  if constexpr (zel::ravix::table_record<R> && zel::ravix::field_count<R> == 1) {
+    return field_value(std::get<0>(zel::ravix::field_list<R>::fields), r);
+  } else {
+    json object = json::object();
+    zel::ravix::for_each_field<R>([&](const auto &field) {
+      const auto add = [&](const auto &present) { object[present.name] = field_value(present, r); };
+      if constexpr (requires { field.first; }) {
+        field.use(r, add);
+      } else {
+        add(field);
+      }
+    });
+    return object;
+  }
+}
+template <> json value_of(const ravix_ip_addr_t &address) {
+  const bool is_address = address.version == 1 || address.version == 2;
+  return is_address ? json(ravix_str_ip_addr(&address)) : json();
+}
+template <> json value_of(const ravix_ssid_t &ssid) {
+  return text_value({reinterpret_cast<const char *>(ssid.ssid), std::min<std::size_t>(ssid.len, 32)});
+}
+template <> json value_of(const ravix_key_t & /*key*/) {
+  return "[SECRET]";
+}
+template <> json value_of(const ravix_tlv_t &element) {
+  return {{"type", element.type}, {"hex", hex(element.value, element.value != nullptr ? element.len : 0)}};
+}
+
+// ---- whole records
+
+TEST(Json, IsAsWritten) {
+  harness::golden_sections sections;
+  const auto add = [&](const char *title, const auto &record) { sections.add(title, text_of(record, 2)); };
+  add("scan_request", scan_request);
+  add("scan_of_all_radios", scan_of_all_radios);
+  add("heard[2]", heard[2]);
+  add("channels[2]", channels[2]);
+  add("radio_airtime", radio_airtime);
+  add("stations[1]", stations[1]);
+  add("update_of_features", update_of_features);
+  add("home_network.security", home_network.security);
+  add("home_state.rsno_elements", home_state.rsno_elements);
+  add("element_table", element_table);
+  add("client_goes", client_goes);
+  add("hw_init", hw_init);
+  sections.add("uplink after home_network", diff_of(uplink, home_network, 2));
+  sections.expect("json");
+}
+
+// The values are those of the record and nothing else, in the order of its fields; no secret is told, nothing logged
+// and no memory taken. The judge reads numbers as they are: what has no name, no unit, and no end.
+TEST(Json, HasTheValuesOfEveryRecord) {
+  harness::captured_log log;
+  harness::for_all_records([&]<class R>() {
+    const sample<R> empty;
+    EXPECT_EQ(json::parse(text_of(empty.value)), value_of(empty.value));
+    for (const variety kind : {variety::usual, variety::full, variety::hostile}) {
+      for (unsigned seed = 0; seed < 20; ++seed) {
+        const sample<R> record(randomness(seed, kind));
+        const json expected = value_of(record.value);
+        log.take();
+        harness::heap heap;
+        const std::string text = text_of(record.value);
+        EXPECT_EQ(heap.requests(), 0U);
+        EXPECT_TRUE(log.take().empty());
+        ASSERT_EQ(json::parse(text), expected) << text;
+        ASSERT_EQ(text.find(harness::secret_mark), std::string::npos);
+        ASSERT_EQ(text.find(hex(harness::secret_mark.data(), 4)), std::string::npos);
+        ASSERT_EQ(text, json::parse(text).dump());
+        ASSERT_EQ(text_of(record.value, 2), json::parse(text).dump(2));
+      }
+    }
+  });
+}
+
+TEST(Json, KeepsEveryFloatingPointNumber) {
+  const auto written = [](float value) {
+    return text_of(ravix_radio_airtime_entry_t{value, 0, 0, 0}).substr(std::strlen(R"({"rxc":)"));
+  };
+  using limits = std::numeric_limits<float>;
+  for (const float value : {0.1F, 1e10F, 16777217.0F, -3.4e-38F, limits::max(), limits::min(), limits::denorm_min(),
+                            std::nextafter(1.0F, 2.0F), -0.0F, 123456.789F}) {
+    const std::string text = written(value);
+    EXPECT_EQ(std::strtof(text.c_str(), nullptr), value) << text;
+    EXPECT_TRUE(json::accept(text.substr(0, text.find(',')))) << text;
+  }
+  for (const float none : {-1.0F, limits::infinity(), -limits::infinity(), limits::quiet_NaN()}) {
+    EXPECT_TRUE(written(none).starts_with("null,")) << written(none);
+  }
+}
+
+// ---- texts
+
+std::string text_of_ssid(const std::string &octets) {
+  ravix_ssid_t ssid{};
+  ssid.len = static_cast<std::uint8_t>(octets.size());
+  std::copy(octets.begin(), octets.end(), ssid.ssid);
+  return text_of(ssid);
+}
+
+TEST(JsonTexts, AreStringsIfTheyAreUtf8) {
+  const struct {
+    const char *what;
+    std::string octets;
+    bool is_text;
+  } rows[] = {
+      {"nothing", "", true},
+      {"a letter of two octets", "caf\xC3\xA9", true},
+      {"the first and the last of two octets", "\xC2\x80\xDF\xBF", true},
+      {"the first and the last of three octets", "\xE0\xA0\x80\xEF\xBF\xBF", true},
+      {"those before and behind the surrogates", "\xED\x9F\xBF\xEE\x80\x80", true},
+      {"the first and the last of four octets", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", true},
+      {"delete is a character", "\x7F", true},
+      {"a full SSID", std::string(32, 'x'), true},
+      {"a zero", std::string("a\0b", 3), false},
+      {"a continuation alone", "\x80", false},
+      {"a letter cut off at the end", "caf\xC3", false},
+      {"three octets of four", "\xF0\x9F\x98", false},
+      {"a letter cut off by another", "\xE2\x82x", false},
+      {"two octets for a slash", "\xC0\xAF", false},
+      {"two octets for the last of one", "\xC1\xBF", false},
+      {"three octets for the last of two", "\xE0\x9F\xBF", false},
+      {"four octets for the last of three", "\xF0\x8F\xBF\xBF", false},
+      {"the first surrogate", "\xED\xA0\x80", false},
+      {"the last surrogate", "\xED\xBF\xBF", false},
+      {"the first beyond U+10FFFF", "\xF4\x90\x80\x80", false},
+      {"a begin of four octets that is none", "\xF5\x80\x80\x80", false},
+      {"a begin of five octets", "\xF8\x88\x80\x80\x80", false},
+      {"octets that never occur", "\xFE\xFF", false},
+  };
+  for (const auto &row : rows) {
+    EXPECT_EQ(is_text(row.octets), row.is_text) << row.what << ", by the other library";
+    EXPECT_EQ(json::parse(text_of_ssid(row.octets)), text_value(row.octets)) << row.what;
+  }
+  for (int octet = 1; octet < 128; ++octet) {
+    const std::string text{'a', static_cast<char>(octet), '"'};
+    EXPECT_EQ(text_of_ssid(text), json(text).dump());
+  }
+  // Every pair of octets, and what may follow it.
+  for (int pair = 0x8000; pair < 0x10000; ++pair) {
+    for (const std::string_view end : {"", "\x80", "\xBF", "\x7F", "\x80\x80", "\xBF\xBF", "\x80\xC0"}) {
+      const std::string octets = std::string{static_cast<char>(pair >> 8), static_cast<char>(pair & 0xFF)}.append(end);
+      ASSERT_EQ(text_of_ssid(octets)[0] == '"', is_text(octets)) << hex(octets.data(), octets.size());
+    }
+  }
+}
+
+// ---- differences
+
+TEST(JsonDifferences, LeadFromTheReferenceToTheValue) {
+  const harness::captured_log log; // rules of types at random speak up when they are cleared
+  for_each_type([](const record_type &type) {
+    if (type.compare == nullptr) {
+      return;
+    }
+    const auto expect_difference = [&](const void *value, const void *reference, bool is_hostile = false) {
+      const json patch = json::parse(json_diff(type, value, reference));
+      const json before = json::parse(json_text(type, reference));
+      const json after = json::parse(json_text(type, value));
+      if (type.compare(value, reference) == 0) {
+        EXPECT_EQ(patch, json::object());
+        return;
+      }
+      EXPECT_TRUE(harness::leads_to(before, patch, after)) << before << "\n" << patch << "\n" << after;
+      EXPECT_EQ(patch.dump().find(harness::secret_mark), std::string::npos);
+      EXPECT_TRUE(patch != json::object() || !after.is_object());
+      for (const auto &field : type.fields) {
+        if (after.contains(field.name) && after != patch && !is_hostile) { // such an address differs from itself
+          const bool differs = type.compares_references || field.compare(value, reference, false) != 0;
+          EXPECT_EQ(patch.contains(field.name), differs) << field.name;
+        }
+      }
+    };
+    for (unsigned seed = 0; seed < 10; ++seed) {
+      for (const variety kind : {variety::usual, variety::full, variety::hostile}) {
+        const any_sample value(type, randomness(seed, kind));
+        const any_sample empty(type);
+        const any_sample other(type, seed + 100);
+        for (const any_sample *reference : {&empty, &other, &value}) {
+          expect_difference(value, *reference, kind == variety::hostile);
+          expect_difference(*reference, value, kind == variety::hostile);
+        }
+      }
+      randomness random(seed);
+      const any_sample value(type);
+      type.fill(value, random);
+      for (std::size_t same = 0; same <= random.choices(); same += 1 + same / 8) {
+        expect_difference(any_sample(type, randomness(seed, same)), value);
+      }
+    }
+  });
+}
+
+TEST(JsonDifferences, HaveNoMoreThanDiffers) {
+  const sample<ravix_cfg_radius_server_t> server(1, variety::full);
+  ravix_cfg_radius_server_t other = server.value;
+  other.index = 7;
+  EXPECT_EQ(diff_of(other, server.value), "{}"); // the operator's order alone
+  other.port = 1645;
+  EXPECT_EQ(diff_of(other, server.value), R"({"index":7,"port":1645})");
+  other = server.value;
+  other.secret[0] = '!';
+  EXPECT_EQ(diff_of(other, server.value), R"({"secret":"[SECRET]"})");
+
+  ravix_cfg_role_config_ap_t config = *home_network.config_ap;
+  ravix_cfg_role_static_t role = home_network;
+  role.config_ap = &config;
+  config.access_control.limits_max_clients = 3;
+  config.ssid.len = 5;
+  EXPECT_EQ(diff_of(role, home_network), R"({"config_ap":{"ssid":"light","access_control":{"limits_max_clients":3}}})");
+  role.config_ap = nullptr;
+  EXPECT_EQ(diff_of(role, home_network), R"({"config_ap":null})");
+  role.op_mode = RAVIX_ROLE_OPMODE_INVALID_MIN; // has neither configuration
+  EXPECT_EQ(diff_of(role, home_network), R"({"op_mode":"INVALID_MIN","config_ap":null})");
+  EXPECT_EQ(diff_of(home_config.ssid, config.ssid), R"("lighthouse")");
+  EXPECT_EQ(diff_of(home_config.ssid, home_config.ssid), "{}");
+}
+
+// ---- what stops a writer
+
+struct stopper {
+  int stop_at = 0, calls = 0;
+  std::string text = {};
+
+  static int write(const char *piece, std::size_t length, void *context) {
+    auto &self = *static_cast<stopper *>(context);
+    self.text.append(piece, length);
+    EXPECT_NE(length, 0U);
+    return ++self.calls == self.stop_at ? -1000 - self.calls : self.calls;
+  }
+};
+
+TEST(JsonWriters, StopAtTheFirstFailureAndPassItOn) {
+  for_each_type([](const record_type &type) {
+    const any_sample record(type, randomness(3, variety::full));
+    const any_sample empty(type);
+    const auto expect_stops = [](const std::string &whole, auto to_json) {
+      stopper target;
+      for (int k = 1; target.text != whole; ++k) {
+        target = {k};
+        const int code = to_json(stopper::write, &target);
+        ASSERT_TRUE(whole.starts_with(target.text));
+        ASSERT_EQ(target.calls, k);
+        ASSERT_EQ(code, -1000 - k);
+      }
+      stopper last{target.calls + 1};
+      EXPECT_EQ(to_json(stopper::write, &last), 0);
+    };
+    const auto &functions = json_functions_of(type);
+    const auto whole = [&](auto write, void *context) { return functions.whole(record, write, context); };
+    const auto indented = [&](auto write, void *context) {
+      ravix_json_indent_t lines{};
+      lines.write = write;
+      lines.context = context;
+      lines.indent = 3;
+      return whole(ravix_json_indent, &lines);
+    };
+    const auto diff = [&](auto write, void *context) { return functions.diff(record, empty, write, context); };
+    expect_stops(json_text(whole), whole);
+    expect_stops(json_text(indented), indented);
+    if (functions.diff != nullptr) {
+      expect_stops(json_text(diff), diff);
+    }
+  });
+}
+
+TEST(JsonWriters, RefuseNullArgumentsInOneLine) {
+  harness::captured_log log;
+  stopper target;
+  for_each_type([&](const record_type &type) {
+    const any_sample r(type);
+    const auto &functions = json_functions_of(type);
+    const auto expect_refusal = [&](int code, const char *operation, const std::string &argument) {
+      EXPECT_EQ(code, -22);
+      const auto lines = log.take();
+      ASSERT_EQ(lines.size(), 1U);
+      EXPECT_EQ(lines[0].name + ": " + lines[0].text, "ravix: Invalid pointer '" + argument + "'!");
+      EXPECT_EQ(lines[0].file + " " + lines[0].function,
+                "json/ravix_types_json " + (functions.name + std::string(operation)));
+    };
+    expect_refusal(functions.whole(nullptr, stopper::write, &target), "_to_json", "obj");
+    expect_refusal(functions.whole(r, nullptr, &target), "_to_json", "write");
+    if (functions.diff != nullptr) {
+      expect_refusal(functions.diff(nullptr, r, stopper::write, &target), "_diff_to_json", "value");
+      expect_refusal(functions.diff(r, nullptr, stopper::write, &target), "_diff_to_json", "reference");
+      expect_refusal(functions.diff(r, r, nullptr, &target), "_diff_to_json", "write");
+    }
+  });
+  ravix_json_indent_t lines{};
+  for (const int code :
+       {ravix_json_indent(nullptr, 1, &lines), ravix_json_indent("1", 1, nullptr), ravix_json_indent("1", 1, &lines)}) {
+    EXPECT_EQ(code, -22);
+  }
+  EXPECT_EQ(log.take().size(), 3U);
+  EXPECT_EQ(target.calls, 0);
+}
+
+// ---- lines and streams
+
+TEST(JsonLines, AreTheSameHoweverTheTextComes) {
+  const std::string texts[] = {text_of(scan_finished), text_of(home_network), R"("a{[\"\\",)", "[]", "{}", "[[],{}]"};
+  for (const std::string &text : texts) {
+    for (const unsigned indent : {0U, 1U, 300U}) {
+      const auto lines_of = [&](std::size_t piece) {
+        return json_text([&](auto write, void *context) {
+          ravix_json_indent_t lines{};
+          lines.write = write;
+          lines.context = context;
+          lines.indent = indent;
+          for (std::size_t at = 0; at < text.size(); at += piece) {
+            ravix_json_indent(&text[at], std::min(piece, text.size() - at), &lines);
+          }
+          return 0;
+        });
+      };
+      EXPECT_EQ(lines_of(1), lines_of(text.size()));
+      EXPECT_EQ(lines_of(7), json::accept(text) ? json::parse(text).dump(static_cast<int>(indent)) : lines_of(1));
+    }
+  }
+}
+
+TEST(JsonStreams, NeitherShowNorLoseTheirFormat) {
+  struct grouped : std::numpunct<char> {
+    char do_thousands_sep() const override { return '\''; }
+    std::string do_grouping() const override { return "\1"; }
+  };
+  std::ostringstream stream;
+  stream.imbue(std::locale(std::locale::classic(), new grouped));
+  stream << std::hex << std::showbase << std::setfill('*') << std::setw(99);
+  print_json(stream, microwave_oven);
+  EXPECT_EQ(stream.width(), 99);
+  EXPECT_EQ(stream.str(), R"({"radio_id":1,"primary_freq":2462000,"active":true,"channel_change":true})");
+  stream.setstate(std::ios::failbit);
+  print_json(stream, home_network);
+  EXPECT_LT(stream.str().size(), 100U);
+
+  struct : std::streambuf {
+  } full; // takes nothing
+  std::ostream throwing(&full);
+  throwing.exceptions(std::ios::badbit);
+  EXPECT_THROW(print_json(throwing, home_network, 2), std::ios::failure);
+}
+
+} // namespace

@@ -1,0 +1,36 @@
+/* Writes a record as JSON in C11, compact and indented, into an array that may be too small. */
+#include <ravix_types_json.h>
+
+#include <stdio.h>
+#include <string.h>
+
+struct text {
+  char octets[256];
+  size_t length;
+};
+
+static int append(const char *piece, size_t length, void *context) {
+  struct text *text = context;
+  if (length >= sizeof text->octets - text->length) {
+    return -1;
+  }
+  memcpy(text->octets + text->length, piece, length);
+  text->length += length;
+  text->octets[text->length] = 0;
+  return 0;
+}
+
+int main(void) {
+  const ravix_event_green_ap_t event = {.radio_id = 2, .enabled = true};
+  struct text compact = {.length = 0};
+  struct text lines = {.length = 0};
+  struct text full = {.length = sizeof full.octets - 10};
+  ravix_json_indent_t indent = {.write = append, .context = &lines, .indent = 1};
+  const bool holds = ravix_types_event_green_ap_to_json(&event, append, &compact) == 0 &&
+                     ravix_types_event_green_ap_to_json(&event, ravix_json_indent, &indent) == 0 &&
+                     ravix_types_event_green_ap_to_json(&event, append, &full) == -1 &&
+                     strcmp(compact.octets, "{\"radio_id\":2,\"enabled\":true}") == 0 &&
+                     strcmp(lines.octets, "{\n \"radio_id\": 2,\n \"enabled\": true\n}") == 0;
+  printf("%s\n%s\n", compact.octets, lines.octets);
+  return holds ? 0 : 1;
+}

@@ -1,10 +1,10 @@
-"""Prints how large the library's objects are, as a Markdown table: families as rows, builds as columns.
+"""Prints how large the libraries' objects are, as a Markdown table: families as rows, builds as columns.
 
-usage: size.py TITLE=LIMIT=BUILD-DIRECTORY...
+usage: size.py TITLE=LIMIT=JSON-LIMIT=BUILD-DIRECTORY...
 
 Counts code (.text), constants (.rodata) and relocated constants (.data.rel.ro). What several families have alike, as
-instances of templates, is in the rows of all of them and counted once in the library's. Fails if code and constants of
-the library exceed LIMIT KiB.
+instances of templates, is in the rows of all of them and counted once in the library's. The library that writes JSON is
+one row more. Fails if code and constants of the library exceed LIMIT KiB, or those of the other JSON-LIMIT.
 """
 
 import glob
@@ -26,32 +26,49 @@ def sections(path):
                 yield kind, int(size, 16), name if "G" in flags else None
 
 
-families, columns, status = {}, [], 0
-for argument in sys.argv[1:]:
-    title, limit, directory = argument.split("=")
-    library, linked = dict.fromkeys(KINDS, 0), set()
-    paths = sorted(glob.glob(f"{directory}/CMakeFiles/ravix_types.dir/src/*.o"))
-    assert paths, f"{directory} has no objects of the library"
+def measure(pattern):
+    """Sizes of each object, by what its source is called, and of all of them linked."""
+    library, linked, objects = dict.fromkeys(KINDS, 0), set(), {}
+    paths = sorted(glob.glob(pattern, recursive=True))
+    assert paths, f"there is no {pattern}"
     for path in paths:
-        family = dict.fromkeys(KINDS, 0)
+        family = objects[os.path.basename(path).split(".")[0]] = dict.fromkeys(KINDS, 0)
         for kind, size, name in sections(path):
             family[kind] += size
             if name not in linked:
                 library[kind] += size
             if name:
                 linked.add(name)
-        families.setdefault(os.path.basename(path).split(".")[0], []).append(family)
-    families.setdefault("library", []).append(library)
-    columns += [f"{title} `{kind}`" for kind in KINDS]
-    if library[".text"] + library[".rodata"] > int(limit) * 1024:
-        status = f"{title}: more than {limit} KiB of code and constants"
+    return objects, library
 
-library = families.pop("library")
-print("| | " + " | ".join(columns) + " |")
+
+def row(name, cells):
+    print(f"| {name} | " + " | ".join(str(cell) for cell in cells) + " |")
+
+
+def totals(builds):
+    return [cell for build in builds for cell in (f"{(build['.text'] + build['.rodata']) / 1024:.1f}", "", "")]
+
+
+families, library, json, columns, status = {}, [], [], [], 0
+for argument in sys.argv[1:]:
+    title, limit, json_limit, directory = argument.split("=")
+    objects, whole = measure(f"{directory}/CMakeFiles/ravix_types.dir/src/*.o")
+    for name, family in objects.items():
+        families.setdefault(name, []).append(family)
+    library.append(whole)
+    json.append(measure(f"{directory}/json/CMakeFiles/ravix_types_json.dir/**/*.o")[1])
+    columns += [f"{title} `{kind}`" for kind in KINDS]
+    for build, most, name in ((library[-1], limit, ""), (json[-1], json_limit, " for JSON")):
+        if build[".text"] + build[".rodata"] > int(most) * 1024:
+            status = f"{title}: more than {most} KiB of code and constants{name}"
+
+row("", columns)
 print("|---|" + "---:|" * len(columns))
 for name, builds in families.items():
-    print(f"| `{name}` | " + " | ".join(str(build[kind]) for build in builds for kind in KINDS) + " |")
-print("| library | " + " | ".join(str(build[kind]) for build in library for kind in KINDS) + " |")
-totals = [f"{(build['.text'] + build['.rodata']) / 1024:.1f}" for build in library]
-print("| code and constants, KiB | " + " | | | ".join(totals) + " | | |")
+    row(f"`{name}`", (build[kind] for build in builds for kind in KINDS))
+row("library", (build[kind] for build in library for kind in KINDS))
+row("code and constants, KiB", totals(library))
+row("`libravix_types_json`", (build[kind] for build in json for kind in KINDS))
+row("its code and constants, KiB", totals(json))
 sys.exit(status)

@@ -1,5 +1,6 @@
 // Writes what the debugger's printers have to know, as JSON: the meaning of each field of each record, and which of two
 // alternatives a record has. All of it stands in the field lists and the meanings that they name.
+#include "json_text.hpp"
 #include "ravix_types_all_fields.hpp"
 #include "ravix_types_util.h"
 
@@ -13,29 +14,6 @@
 namespace {
 
 using namespace zel::ravix;
-
-std::string quoted(std::string_view text) {
-  std::string out = "\"";
-  for (const char character : text) {
-    out += character == '"' || character == '\\' ? "\\" : "";
-    out += character;
-  }
-  return out + '"';
-}
-
-// A list or object, item by item.
-class json {
-public:
-  explicit json(std::string_view brackets, std::string_view separator = ", ")
-      : text_(1, brackets[0]), separator_(separator), end_(brackets[1]) {}
-  void add(const std::string &item) { text_ += (text_.size() > 1 ? separator_ : "") + item; }
-  void add(std::string_view key, const std::string &value) { add(quoted(key) + ": " + value); }
-  std::string text() const { return text_ + end_; }
-
-private:
-  std::string text_, separator_;
-  char end_;
-};
 
 // What a meaning shows for a value.
 struct collector {

@@ -59,6 +59,9 @@ if(RAVIX_BUILD_JSON)
   ravix_pkg_config(ravix_types_json DESCRIPTION "Records of the ravix WLAN control interface as JSON" REQUIRES ravix_types
                                     LIBRARIES zelcsock)
 endif()
+if(RAVIX_BUILD_JSON_SCHEMA)
+  install(FILES ${PROJECT_BINARY_DIR}/json/ravix_types.schema.json DESTINATION ${ravix_data_dir})
+endif()
 
 configure_package_config_file(cmake/ravix_types-config.cmake.in ${PROJECT_BINARY_DIR}/cmake/ravix_types-config.cmake
                               INSTALL_DESTINATION ${ravix_package_dir})

@@ -2,10 +2,11 @@
 // may be follows from the field lists and the meanings that they name. What it stands for is said by the comments of
 // the headers, which are read here; a record, field or list of names without one is an error.
 //
-// usage: json_schema TITLE HEADER...
+// usage: json_schema VERSION HEADER...
 #include "json_text.hpp"
 #include "ravix_types_all_fields.hpp"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <exception>
@@ -18,6 +19,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -41,14 +43,16 @@ public:
         }
       } else if (constexpr std::string_view begin = "typedef struct "; line.starts_with(begin)) {
         structure = line.substr(begin.size(), line.find(' ', begin.size()) - begin.size());
-        texts_[structure] = words(comment);
-        declaration.clear();
+        add(structure, comment);
+        comment.clear();
+      } else if (line.starts_with("}")) {
+        structure.clear();
       } else if (!structure.empty()) {
         declaration += line + '\n';
         if (line.find("*/") != std::string::npos) {
           take_member(structure, declaration);
         }
-        if (line.ends_with("*/") || line.ends_with("{") || line.ends_with("};")) {
+        if (line.ends_with("*/") || line.ends_with("{") || line.ends_with("};")) { // also of what shares its storage
           declaration.clear();
         }
       }
@@ -61,6 +65,12 @@ public:
   }
 
 private:
+  void add(const std::string &what, const std::string &comment) {
+    if (std::string text = words(comment); !text.empty()) {
+      texts_[what] = std::move(text);
+    }
+  }
+
   // Without what makes it a comment, and in one line.
   static std::string words(const std::string &comment) {
     std::istringstream in(comment);
@@ -76,10 +86,10 @@ private:
   // "type name[size]; /**< text */"
   void take_member(const std::string &structure, const std::string &declaration) {
     const std::size_t begin = declaration.find("/**<");
-    const std::size_t end = declaration.find_last_of("[;", begin);
-    const std::size_t name_end = declaration.rfind('[', end) != std::string::npos ? declaration.find('[') : end;
+    const std::size_t end = declaration.rfind(';', begin);
+    const std::size_t name_end = std::min(declaration.find('[', declaration.rfind(';', end - 1) + 1), end);
     const std::size_t name_begin = declaration.find_last_of(" *", name_end) + 1;
-    texts_[structure + '.' + declaration.substr(name_begin, name_end - name_begin)] = words(declaration.substr(begin));
+    add(structure + '.' + declaration.substr(name_begin, name_end - name_begin), declaration.substr(begin));
   }
 
   // Of what its formatter's name tells: "text. See ravix_str_name()." or "@name heading", and the text below it.
@@ -90,7 +100,7 @@ private:
       if (const std::size_t heading = text.find(name); heading != std::string::npos) {
         text.replace(text.find('\n', heading), 1, ". ").erase(0, heading + name.size());
       }
-      texts_[comment.substr(at + see.size(), comment.find('(', at) - at - see.size())] = words(text);
+      add(comment.substr(at + see.size(), comment.find('(', at) - at - see.size()), text);
     }
   }
 
@@ -116,6 +126,9 @@ std::string type(std::string_view name) {
 }
 
 std::map<std::string, std::string> definitions; // other than of records
+
+constexpr const char *bits_pattern = R"("^0x[0-9a-f]+$")"; // of an address too
+constexpr const char *ip_pattern = R"("^(([0-9]{1,3}[.]){3}[0-9]{1,3}|([0-9a-f]{1,4}:){7}[0-9a-f]{1,4})$")";
 
 // The name of a list of names, or null for what is no such list.
 template <class Meaning> constexpr const char *list_name() {
@@ -144,7 +157,8 @@ template <class Meaning> std::string named() {
   json schema = described(told.of(name));
   if constexpr (Meaning::kind == value_kind::flags) {
     schema.add("type", quoted("array"));
-    schema.add("items", "{\"anyOf\": " + any_of(one_of, R"({"type": "string", "pattern": "^0x[0-9a-f]+$"})") + "}");
+    const std::string others = std::string(R"({"type": "string", "pattern": )") + bits_pattern + '}';
+    schema.add("items", "{\"anyOf\": " + any_of(one_of, others) + "}");
     schema.add("uniqueItems", "true");
   } else {
     schema.add("anyOf", any_of(one_of, R"({"type": "integer", "not": {"enum": )" + values.text() + "}}"));
@@ -185,8 +199,8 @@ template <class Meaning, class T> void add_value(json &schema) {
   constexpr value_kind kind = Meaning::kind;
   if constexpr (list_name<Meaning>() != nullptr) {
     schema.add("$ref", reference(named<Meaning>()));
-    if constexpr (kind == value_kind::name) {
-      add_range<Meaning, T>(schema);
+    if constexpr (kind == value_kind::name) { // a status is signed, though some records carry its bits only
+      add_range<Meaning, std::conditional_t<std::is_same_v<Meaning, meaning::status>, std::int32_t, T>>(schema);
     }
   } else if constexpr (kind == value_kind::flag) {
     schema.add("type", quoted("boolean"));
@@ -195,7 +209,7 @@ template <class Meaning, class T> void add_value(json &schema) {
   } else if constexpr (std::is_floating_point_v<T>) {
     schema.add("type", R"(["number", "null"])");
   } else if constexpr (std::is_pointer_v<T>) {
-    schema.add("type", R"(["integer", "null"])").add("minimum", "0");
+    schema.add("type", R"(["string", "null"])").add("pattern", bits_pattern);
   } else {
     schema.add("type", Meaning::empty_is_none ? R"(["integer", "null"])" : quoted("integer"));
     add_range<Meaning, T>(schema);
@@ -336,7 +350,7 @@ template <class R> std::string schema_of() {
   const std::string record = name_of<R>();
   json schema = described(told.of(record));
   if constexpr (std::is_same_v<R, ravix_ip_addr_t>) {
-    schema.add("type", quoted("string"));
+    schema.add("type", R"(["string", "null"])").add("pattern", ip_pattern);
   } else if constexpr (is_one_value<R>()) {
     for_each_field<R>([&](const auto &field) { add_field(schema, field); });
   } else {
@@ -383,7 +397,7 @@ template <class R> std::string difference_schema_of() {
   return schema.text();
 }
 
-std::string whole_schema(const std::string &title) {
+std::string whole_schema(const std::string &version) {
   lines all(4);
   for_each_record([&]<class R>(const char * /*structure*/) { all.add(name_of<R>(), schema_of<R>()); });
   for_each_record([&]<class R>(const char * /*structure*/) {
@@ -396,7 +410,7 @@ std::string whole_schema(const std::string &title) {
   }
   lines schema(2);
   schema.add("$schema", quoted("https://json-schema.org/draft/2020-12/schema"));
-  schema.add("title", quoted(title));
+  schema.add("title", quoted("Records of libravix_types " + version + " as JSON"));
   schema.add("$defs", all.text());
   return schema.text();
 }

@@ -85,6 +85,11 @@ need_build_tools() {
     /usr/include/nlohmann/json.hpp=nlohmann-json3-dev "$@"
 }
 
+# What the tests need besides.
+need_test_tools() {
+  need jq=jq /usr/lib/python3/dist-packages/jsonschema/__init__.py=python3-jsonschema
+}
+
 # What clang's builds need besides; its sanitizers and fuzzer are in a package of their own.
 # shellcheck disable=SC2120 # mostly called without arguments
 need_clang_tools() {
@@ -150,6 +155,7 @@ run_tests() {
   local preset=$1 log
   shift
   passed=
+  need_test_tools
   configure "$preset"
   build "$preset" || return
   step "Running the tests of '$preset'"

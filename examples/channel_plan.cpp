@@ -5,6 +5,7 @@
 #include "text_input.hpp"
 
 #include "ravix_types_enums.h"
+#include "ravix_types_json.hpp"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
@@ -42,6 +43,7 @@ primary channel, or around the one that is asked for. If a list is refused, it s
   --band 2.4|5|6            this band only
   --phy NAME                the radio, if FILE describes several
   --list                    print the channel list too
+  --json                    print for programs: an array of the bands, each with its channel list
   --svg FILE                draw the band of --primary or --band
   -h, --help                this text
 
@@ -64,6 +66,7 @@ struct options {
   uint8_t band = 0;
   std::string phy;
   bool print_list = false;
+  bool as_json = false;
   std::string svg;
 };
 
@@ -173,6 +176,8 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
     }
     if (argument == "--list") {
       out.print_list = true;
+    } else if (argument == "--json") {
+      out.as_json = true;
     } else if (argument == "--allow-no-ir") {
       out.allow_no_ir = true;
     } else if (std::find(std::begin(with_value), std::end(with_value), argument) != std::end(with_value)) {
@@ -224,17 +229,16 @@ void mark(ravix_channel_list_t &list, const options &wanted) {
   }
 }
 
-// Checks a list and prints the names of the rules that it violates.
-bool is_accepted(const ravix_channel_list_t &list) {
-  ravix_string_table_t violations{};
-  const bool accepted = ravix_validate_channel_list(&list, &violations);
-  std::cout << (accepted ? "accepted" : "refused:");
-  for (uint32_t i = 0; i < violations.count; ++i) {
-    std::cout << ' ' << violations.data[i];
-  }
-  std::cout << '\n';
-  ravix_types_string_table_clear(&violations);
-  return accepted;
+// What the library says of a list.
+struct verdict {
+  bool is_accepted = false;
+  ravix::handle<ravix_string_table_t> violations; // names of the rules; null if memory is exhausted
+};
+
+verdict judge(const ravix_channel_list_t &list) {
+  verdict result{false, ravix::create<ravix_string_table_t>()};
+  result.is_accepted = ravix_validate_channel_list(&list, result.violations.get());
+  return result;
 }
 
 // The punctured channels of a wide one as its puncture map.
@@ -311,37 +315,28 @@ void use(ravix_channel_list_t &list, const ravix_channel_info_t &channel, const 
   }
 }
 
-std::string channel_line(uint32_t primary, const std::optional<ravix_channel_info_t> &found,
-                         const char *otherwise = "no clear channel") {
-  std::string line = ravix_str_wifi_freq(primary);
-  const std::string width = found ? ravix_str_channel_width(found->channel_width) : "-";
-  line += "  " + std::string(7 - std::min<std::size_t>(7, width.size()), ' ') + width + "  ";
-  return line + (found ? ravix_str_channel_info(&*found) : otherwise);
-}
+// The channel around a primary one.
+struct widest {
+  uint32_t primary;
+  bool has_no_ir;
+  std::optional<ravix_channel_info_t> found;
+};
 
 struct plan {
   bool is_good = true;
   ravix::handle<ravix_channel_list_t> list; // null if memory is exhausted
-  std::optional<ravix_channel_info_t> found;
-};
+  verdict of_radio;                         // on the radio's own list
+  std::vector<iw::phy_channel> others;      // that no list may have: set aside
+  bool was_descending = false;
+  std::optional<verdict> of_others; // on the list without them, in ascending order
+  std::vector<widest> channels;     // around every primary channel, or the wanted one; none of a list that is refused
+  std::optional<verdict> in_use;    // on the list with the only one in use
 
-// What remains of a band whose list is refused, without the channels that no list may have. False if that is all of it.
-bool set_others_aside(iw::phy_band &band) {
-  const auto is_below = [](const auto &a, const auto &b) { return a.frequency < b.frequency; };
-  const bool is_ascending = std::is_sorted(band.channels.begin(), band.channels.end(), is_below);
-  const auto others = iw::set_aside(band);
-  if (!others.empty()) {
-    std::cout << "set aside:";
-    for (const auto &channel : others) {
-      std::cout << (&channel == &others.front() ? " " : ", ") << channel.frequency / 1000 << " MHz [" << channel.number
-                << ']';
-    }
-    std::cout << "\nlist of the others ";
-  } else if (!is_ascending) {
-    std::cout << "list in ascending order ";
+  const verdict &of_list() const { return in_use ? *in_use : of_others ? *of_others : of_radio; }
+  const ravix_channel_info_t *found() const {
+    return channels.empty() || !channels.front().found ? nullptr : &*channels.front().found;
   }
-  return !others.empty() || !is_ascending;
-}
+};
 
 // The list of a band with the marks of the arguments; null if memory is exhausted.
 ravix::handle<ravix_channel_list_t> marked_list(const iw::phy_band &band, const options &wanted) {
@@ -352,55 +347,144 @@ ravix::handle<ravix_channel_list_t> marked_list(const iw::phy_band &band, const 
   return list;
 }
 
+// Makes and judges the list of a band. If it is refused, what remains of the band is without the channels that no list
+// may have. False if no list is accepted.
+bool make_list(iw::phy_band &band, const options &wanted, plan &result) {
+  result.list = marked_list(band, wanted);
+  if (!result.list) {
+    return false;
+  }
+  result.of_radio = judge(*result.list);
+  result.is_good = result.of_radio.is_accepted;
+  if (result.is_good) {
+    return true;
+  }
+  const auto is_below = [](const auto &a, const auto &b) { return a.frequency < b.frequency; };
+  result.was_descending = !std::is_sorted(band.channels.begin(), band.channels.end(), is_below);
+  result.others = iw::set_aside(band);
+  if (result.others.empty() && !result.was_descending) {
+    return false;
+  }
+  result.list = marked_list(band, wanted);
+  if (!result.list) {
+    return false;
+  }
+  result.of_others = judge(*result.list);
+  return result.of_others->is_accepted;
+}
+
 plan plan_band(iw::phy_band &band, const options &wanted) {
+  plan result;
+  if (!make_list(band, wanted, result)) {
+    return result;
+  }
+  auto &list = *result.list;
+  const auto add = [&](uint32_t primary) {
+    const bool is_marked = has_no_ir(band, primary);
+    const bool is_left_out = is_marked && !wanted.allow_no_ir;
+    result.channels.push_back(
+        {primary, is_marked, is_left_out ? std::nullopt : find_widest(band, list, primary, wanted)});
+  };
+  if (wanted.primary != 0) {
+    add(wanted.primary);
+    if (result.found() != nullptr) {
+      use(list, *result.found(), wanted);
+      result.in_use = judge(list);
+    }
+    result.is_good = result.in_use && result.in_use->is_accepted && result.is_good;
+    return result;
+  }
+  for (uint32_t i = 0; i < list.count; ++i) {
+    add(list.data[i].frequency);
+  }
+  return result;
+}
+
+// ---- output
+
+void print_heading(const iw::phy_band &band) {
   const auto count = [&](bool iw::phy_channel::*flag) {
     return std::count_if(band.channels.begin(), band.channels.end(), [=](const auto &c) { return c.*flag; });
   };
   std::cout << ravix_str_radio_band(band.radio_band) << ": " << band.channels.size() << " channels, "
             << count(&iw::phy_channel::is_disabled) << " disabled, " << count(&iw::phy_channel::has_radar_detection)
             << " with radar detection, " << count(&iw::phy_channel::has_no_ir) << " with no IR, up to "
-            << ravix_str_channel_width(ravix_channel_capabilities_to_channel_width(band.widths)) << ": list ";
-  plan result;
-  result.list = marked_list(band, wanted);
-  result.is_good = result.list && is_accepted(*result.list);
-  if (result.list && !result.is_good) {
-    if (!set_others_aside(band)) {
-      return result;
-    }
-    result.list = marked_list(band, wanted);
-    if (result.list && !is_accepted(*result.list)) {
-      return result;
-    }
+            << ravix_str_channel_width(ravix_channel_capabilities_to_channel_width(band.widths)) << ": ";
+}
+
+void print_verdict(const char *what, const verdict &of) {
+  std::cout << what << (of.is_accepted ? " accepted" : " refused:");
+  for (uint32_t i = 0; of.violations && i < of.violations->count; ++i) {
+    std::cout << ' ' << of.violations->data[i];
   }
-  if (!result.list) {
-    return result;
-  }
-  auto &list = *result.list;
-  if (wanted.primary == 0) {
-    std::cout << "PRIMARY         WIDEST   CHANNEL_INFO\n";
-    for (uint32_t i = 0; i < list.count; ++i) {
-      const auto primary = list.data[i].frequency;
-      const bool is_marked = has_no_ir(band, primary);
-      if (is_marked && !wanted.allow_no_ir) {
-        std::cout << channel_line(primary, std::nullopt, "no IR") << '\n';
-        continue;
-      }
-      std::cout << channel_line(primary, find_widest(band, list, primary, wanted)) << (is_marked ? "  no IR" : "")
-                << '\n';
-    }
+  std::cout << '\n';
+}
+
+void print_channel(const widest &channel, const options &wanted) {
+  const bool is_left_out = channel.has_no_ir && !wanted.allow_no_ir;
+  const std::string width = channel.found ? ravix_str_channel_width(channel.found->channel_width) : "-";
+  std::cout << ravix_str_wifi_freq(channel.primary) << "  "
+            << std::string(7 - std::min<std::size_t>(7, width.size()), ' ') << width << "  ";
+  if (channel.found) {
+    std::cout << ravix_str_channel_info(&*channel.found);
   } else {
-    result.found = find_widest(band, list, wanted.primary, wanted);
-    std::cout << channel_line(wanted.primary, result.found) << '\n';
-    if (result.found) {
-      use(list, *result.found, wanted);
-      std::cout << "list with this channel in use ";
-    }
-    result.is_good = result.found && is_accepted(list) && result.is_good;
+    std::cout << (is_left_out ? "no IR" : "no clear channel");
+  }
+  std::cout << (wanted.primary == 0 && channel.has_no_ir && !is_left_out ? "  no IR\n" : "\n");
+}
+
+void print(const plan &planned, const options &wanted) {
+  print_verdict("list", planned.of_radio);
+  for (const auto &channel : planned.others) {
+    std::cout << (&channel == &planned.others.front() ? "set aside: " : ", ") << channel.frequency / 1000 << " MHz ["
+              << channel.number << ']';
+  }
+  std::cout << (planned.others.empty() ? "" : "\n");
+  if (planned.of_others) {
+    print_verdict(planned.others.empty() ? "list in ascending order" : "list of the others", *planned.of_others);
+  }
+  const bool is_planned = planned.of_others ? planned.of_others->is_accepted : planned.of_radio.is_accepted;
+  if (!is_planned) {
+    return;
+  }
+  std::cout << (wanted.primary == 0 ? "PRIMARY         WIDEST   CHANNEL_INFO\n" : "");
+  for (const auto &channel : planned.channels) {
+    print_channel(channel, wanted);
+  }
+  if (planned.in_use) {
+    print_verdict("list with this channel in use", *planned.in_use);
   }
   if (wanted.print_list) {
-    std::cout << list << '\n';
+    std::cout << *planned.list << '\n';
   }
-  return result;
+}
+
+// The same for programs, as a list and its judgement.
+void print_as_json(uint8_t radio_band, const plan &planned) {
+  std::vector<uint32_t> others;
+  for (const auto &channel : planned.others) {
+    others.push_back(channel.frequency);
+  }
+  std::cout << R"({"radio_band":")" << ravix_str_radio_band(radio_band) << R"(","violations":)";
+  print_json(std::cout, *planned.of_radio.violations);
+  std::cout << R"(,"set_aside":)";
+  print_json(std::cout, ravix_frequency_table_t{static_cast<uint32_t>(others.size()), others.data()});
+  std::cout << R"(,"channel_list":)";
+  print_json(std::cout, *planned.list);
+  std::cout << R"(,"channel_list_violations":)";
+  print_json(std::cout, *planned.of_list().violations);
+  std::cout << R"(,"channels":[)";
+  for (const auto &channel : planned.channels) {
+    std::cout << (&channel == &planned.channels.front() ? "" : ",") << R"({"primary_freq":)" << channel.primary
+              << R"(,"no_ir":)" << (channel.has_no_ir ? "true" : "false") << R"(,"channel_info":)";
+    if (channel.found) {
+      print_json(std::cout, *channel.found);
+    } else {
+      std::cout << "null";
+    }
+    std::cout << '}';
+  }
+  std::cout << "]}";
 }
 
 int draw(const iw::phy &radio, const iw::phy_band &band, const plan &planned, const options &wanted) {
@@ -408,11 +492,11 @@ int draw(const iw::phy &radio, const iw::phy_band &band, const plan &planned, co
       band.radio_band == RAVIX_RADIO_BAND_2GHZ ? "channels overlap, 5 MHz apart" : "channels that the radio has";
   if (wanted.primary != 0) {
     subtitle = "primary channel " + std::to_string(ravix_frequency_to_channel(wanted.primary)) +
-               (planned.found ? ", widest clear channel" : ", no clear channel");
+               (planned.found() != nullptr ? ", widest clear channel" : ", no clear channel");
   }
   std::ofstream file(wanted.svg, std::ios::binary);
   file << picture::draw_band(radio.name + ": " + ravix_str_radio_band(band.radio_band), subtitle, band, *planned.list,
-                             planned.found ? &*planned.found : nullptr);
+                             planned.found());
   file.close();
   if (!file) {
     std::cerr << program << ": cannot write " << wanted.svg << '\n';
@@ -484,16 +568,28 @@ int run(const options &wanted) {
     if (wanted_band != 0 && band.radio_band != wanted_band) {
       continue;
     }
-    std::cout << (is_done ? "\n" : "");
-    is_done = true;
+    if (!wanted.as_json) {
+      std::cout << (is_done ? "\n" : "");
+      print_heading(band);
+    }
     const auto planned = plan_band(band, wanted);
-    if (!planned.list) {
+    if (!planned.list || !planned.of_radio.violations || !planned.of_list().violations) {
       return 1;
     }
+    if (wanted.as_json) {
+      std::cout << (is_done ? "," : "[");
+      print_as_json(band.radio_band, planned);
+    } else {
+      print(planned, wanted);
+    }
+    is_done = true;
     status = planned.is_good ? status : 1;
     if (!wanted.svg.empty() && draw(*radio, band, planned, wanted) != 0) {
       status = 1;
     }
+  }
+  if (is_done && wanted.as_json) {
+    std::cout << "]\n";
   }
   if (!is_done) {
     std::cerr << program << ": " << radio->name << " has no channels in that band\n";

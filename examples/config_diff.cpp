@@ -5,6 +5,7 @@
 #include "ravix_types_cfg.h"
 #include "ravix_types_enums.h"
 #include "ravix_types_handles.hpp"
+#include "ravix_types_json.hpp"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_str_convert.h"
 
@@ -14,19 +15,23 @@
 #include <initializer_list>
 #include <iostream>
 #include <new>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
 
-constexpr const char *help = R"(usage: config_diff [OPTION]
+constexpr const char *help = R"(usage: config_diff [OPTION...]
 
 Builds the configuration of a device with three radios (home, guest and hotspot access points, an uplink), changes what
 an operator would change, and prints it before, after, and what changed.
 
   --changes     print only what changed
+  --json        print for programs: an object with "before", "after" and "changes", or the last alone. In each of them
+                records stand by their identifiers, and the changes are a JSON merge patch (RFC 7396)
   -h, --help    this text
 )";
 
@@ -297,21 +302,86 @@ void print(std::ostream &os, const configuration &config, const configuration *r
   print_list(os, "role state", config.role_states, reference != nullptr ? &reference->role_states : nullptr);
 }
 
-int run(int argc, char **argv) {
-  const std::string_view argument = argc == 2 ? argv[1] : "";
-  if (argument == "-h" || argument == "--help") {
-    std::cout << help;
-    return 0;
+// ---- printing for programs
+
+using json_members = std::vector<std::pair<std::string, std::string>>;
+
+std::string json_object(const json_members &members) {
+  std::string object;
+  for (const auto &[key, value] : members) {
+    object += (object.empty() ? "{\"" : ",\"") + key + "\":" + value;
   }
-  if (argc > 2 || (argc == 2 && argument != "--changes")) {
-    std::cerr << "config_diff: unknown argument: " << argv[argc - 1] << " (see --help)\n";
-    return 2;
+  return object.empty() ? "{}" : object + '}';
+}
+
+// Adds a record, or what differs in it from the reference, if anything does.
+template <class record>
+void add_json(json_members &members, const std::string &key, const record &r, const record *reference) {
+  std::ostringstream json;
+  if (reference == nullptr) {
+    print_json(json, r);
+  } else {
+    print_json_diff(json, r, *reference);
+  }
+  if (json.str() != "{}") {
+    members.emplace_back(key, json.str());
+  }
+}
+
+template <class pointer>
+void add_json_list(json_members &members, const char *what, const std::vector<pointer> &records,
+                   const std::vector<pointer> *reference) {
+  json_members list;
+  for (std::size_t i = 0; i < records.size(); ++i) {
+    add_json(list, std::to_string(records[i]->id), *records[i], reference != nullptr ? (*reference)[i].get() : nullptr);
+  }
+  if (reference == nullptr || !list.empty()) {
+    members.emplace_back(what, json_object(list));
+  }
+}
+
+std::string json_of(const configuration &config, const configuration *reference) {
+  json_members members;
+  add_json(members, "global_settings", *config.global, reference != nullptr ? reference->global.get() : nullptr);
+  add_json_list(members, "hardware", config.hardware, reference != nullptr ? &reference->hardware : nullptr);
+  add_json_list(members, "radios", config.radios, reference != nullptr ? &reference->radios : nullptr);
+  add_json_list(members, "roles", config.roles, reference != nullptr ? &reference->roles : nullptr);
+  add_json_list(members, "role_states", config.role_states, reference != nullptr ? &reference->role_states : nullptr);
+  return json_object(members);
+}
+
+int run(int argc, char **argv) {
+  bool only_changes = false;
+  bool as_json = false;
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argument = argv[i];
+    if (argument == "-h" || argument == "--help") {
+      std::cout << help;
+      return 0;
+    }
+    if (argument == "--changes") {
+      only_changes = true;
+    } else if (argument == "--json") {
+      as_json = true;
+    } else {
+      std::cerr << "config_diff: unknown argument: " << argument << " (see --help)\n";
+      return 2;
+    }
   }
   try {
     const configuration before = make_configuration();
     configuration after = clone(before);
     change(after);
-    if (argument.empty()) {
+    if (as_json) {
+      const std::string changes = json_of(after, &before);
+      std::cout << (only_changes ? changes
+                                 : json_object({{"before", json_of(before, nullptr)},
+                                                {"after", json_of(after, nullptr)},
+                                                {"changes", changes}}))
+                << '\n';
+      return 0;
+    }
+    if (!only_changes) {
       std::cout << "===== before\n";
       print(std::cout, before, nullptr);
       std::cout << "===== after\n";

@@ -7,6 +7,7 @@
 #include "ravix_types_api_request.h"
 #include "ravix_types_enums.h"
 #include "ravix_types_handles.hpp"
+#include "ravix_types_json.hpp"
 #include "ravix_types_printers.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
@@ -34,6 +35,7 @@ comes with the program, and lists the networks as records of the scan interface.
   --freq MHZ[,MHZ...]   ask for networks on these primary channels only (may be repeated)
   --ssid NAME           ask for networks of this name only (may be repeated)
   --hide-ssid           leave the names out of the listing
+  --json                print for programs: the results as JSON, in one line
   --verbose             print the request and the status of the response too
   -h, --help            this text
 
@@ -46,6 +48,7 @@ struct options {
   std::vector<uint32_t> frequencies; // kHz
   std::vector<ravix_ssid_t> ssids;
   bool hide_ssid = false;
+  bool as_json = false;
   bool verbose = false;
 };
 
@@ -154,6 +157,8 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
     }
     if (argument == "--hide-ssid") {
       out.hide_ssid = true;
+    } else if (argument == "--json") {
+      out.as_json = true;
     } else if (argument == "--verbose") {
       out.verbose = true;
     } else if (argument == "--freq" || argument == "--ssid") {
@@ -186,6 +191,9 @@ std::optional<int> read_arguments(const std::vector<std::string> &arguments, opt
       return wrong_argument("more than one file");
     }
   }
+  if (out.as_json && out.hide_ssid) {
+    return wrong_argument("--json tells the names, so it does not go with --hide-ssid");
+  }
   if (out.input.empty()) {
     out.input = text::sample(sample_name);
   }
@@ -208,15 +216,28 @@ int run(const options &wanted) {
     return 1;
   }
   const auto started = radio.start_scan(*request);
+  const auto print_record = [&](const auto &record) {
+    if (wanted.as_json) {
+      print_json(std::cout, record);
+    } else {
+      std::cout << record;
+    }
+    std::cout << '\n';
+  };
   if (wanted.verbose) {
-    std::cout << *request << '\n' << started << '\n';
+    print_record(*request);
+    print_record(started);
   }
   const auto response = radio.scan_results({radio_id, true});
   if (!response || response->scan_results == nullptr) {
     return 1;
   }
-  print_scan_results(std::cout, *response->scan_results, wanted.hide_ssid);
-  std::cout << '\n';
+  if (wanted.hide_ssid) {
+    print_scan_results(std::cout, *response->scan_results, true);
+    std::cout << '\n';
+  } else {
+    print_record(*response->scan_results);
+  }
   return problems.has_errors() ? 1 : 0;
 }
 

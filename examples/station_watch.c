@@ -1,6 +1,8 @@
 /* What a listener of the interface does with stations, in C: it keeps a table of an access point's clients, follows the
- * daemon's events in it, and writes both to a log. Nothing but the public C headers is needed for that. */
+ * daemon's events in it, and writes both to a log, and an event as JSON. Nothing but the public C headers is needed for
+ * that. */
 #include "ravix_types.h"
+#include "ravix_types_json.h"
 
 #include <stdio.h>
 #include <string.h>
@@ -52,6 +54,11 @@ static void print_clients(const ravix_station_table_t *table) {
   }
 }
 
+/* Takes a piece of JSON; what is negative ends it. */
+static int write_to_file(const char *piece, size_t length, void *file) {
+  return fwrite(piece, 1, length, file) == length ? 0 : -1;
+}
+
 static void on_state_update(ravix_station_table_t *table, const ravix_event_client_state_update_t *event) {
   ravix_station_entry_t *client = find_client(table, event->mac);
   printf("role %s: client %s: %s -> %s%s\n", ravix_str_id(event->role_id), ravix_str_mac(event->mac),
@@ -60,6 +67,9 @@ static void on_state_update(ravix_station_table_t *table, const ravix_event_clie
   if (client != NULL) {
     client->state = event->new_state;
   }
+  printf("the same for programs: ");
+  ravix_types_event_client_state_update_to_json(event, write_to_file, stdout);
+  printf("\n");
 }
 
 static void on_signal_update(ravix_station_table_t *table, const ravix_event_client_rssi_update_t *event) {

@@ -2,11 +2,12 @@
 
 Checks the JSON Schema of a finished build: it is one, it accepts what the library writes for records of every kind and
 what the examples print, it refuses what the library would not write, and it cannot be made of headers that leave
-something out. RUN are the words of a command that runs programs of the build, or none."""
+something out. What docs/json.md shows is what is written. RUN are the words of a command that runs programs of the build, or none."""
 
 import copy
 import json
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -37,23 +38,55 @@ def expect(definition, value, is_valid):
 
 # ---- what the library writes
 
+parts = []  # every object within what was written
+
+
+def objects_in(value):
+    if isinstance(value, dict):
+        yield value
+    for inner in value.values() if isinstance(value, dict) else value if isinstance(value, list) else []:
+        yield from objects_in(inner)
+
+
 fullest = {}  # by definition: the longest that was written
 for line in output_of("schema_records", check=True).stdout.splitlines():
     definition, text = line.split(" ", 1)
     value = json.loads(text)
     expect(definition, value, True)
+    parts.extend(objects_in(value))
     fullest[definition] = max(fullest.get(definition, (0,)), (len(text), text))
 written = {definition: json.loads(text) for definition, (_, text) in fullest.items()}
 records = {name for name in schema["$defs"] if name.startswith(("ravix_", "radiod_"))}
 failures += [f"{name} is never written" for name in sorted(records - written.keys())]
 
 if (build / "bin/scan_report").exists():
-    expect("ravix_scan_results", json.loads(output_of("scan_report", "--json", check=True).stdout), True)
+    scan = output_of("scan_report", "--json", check=True).stdout
+    expect("ravix_scan_results", json.loads(scan), True)
     change = json.loads(output_of("config_diff", "--json", check=True).stdout)
     for role in [*change["before"]["roles"].values(), *change["after"]["roles"].values()]:
         expect("ravix_cfg_role_static", role, True)
     for role in change["changes"]["roles"].values():
         expect("ravix_cfg_role_static_diff", role, True)
+
+    # ---- what the page on JSON shows: objects, single members, and a program
+
+    parts.extend([*objects_in(json.loads(scan)), *objects_in(change)])
+    specimens = (source / "tests/data/json.txt").read_text(encoding="utf-8")
+    for specimen in re.split(r"^---.*$", specimens, flags=re.M)[1:]:
+        parts.extend(objects_in(json.loads(specimen)))
+    page = (source / "docs/json.md").read_text(encoding="utf-8")
+    shown = re.findall(r"```json\n(.*?)```", page, re.S)
+    shown += [f"{{{member}}}" for member in re.findall(r'`("\w+": .*?)`', page)]
+    shown += re.findall(r"`(\{.+?\})`", page)
+    for example in map(json.loads, shown):
+        if not any(all(part.get(key, failures) == value for key, value in example.items()) for part in parts):
+            failures.append(f"docs/json.md shows what is not written: {json.dumps(example)}")
+    program = re.search(r"```python\n(.*?)```", page, re.S)[1]
+    program = re.sub(r'"/usr/.*?"', repr(str(build / "json/ravix_types.schema.json")), program)
+    for text, is_valid in [(scan, True), ("[]", False)]:
+        done = subprocess.run([sys.executable, "-c", program], input=text, capture_output=True, text=True, encoding="utf-8")
+        if (done.returncode == 0) != is_valid or done.stdout:
+            failures.append(f"docs/json.md has a program that says: {done.stdout + done.stderr}")
 
 # ---- what it would not write: a member with another value, which is right or wrong
 

@@ -21,5 +21,6 @@ EXTRA_OECMAKE = "-DRAVIX_OPTIMIZE=size -DRAVIX_BUILD_TESTS=OFF -DRAVIX_BUILD_EXA
 # The package is named after this library's SONAME, libravix-types1, and programs depend on that name: those that were built
 # with another major version are not taken for fitting.
 LEAD_SONAME = "libravix_types.so"
-PACKAGES =+ "libzelcsock"
+PACKAGES =+ "libzelcsock libravix-types-json"
 FILES:libzelcsock = "${libdir}/libzelcsock.so.*"
+FILES:libravix-types-json = "${libdir}/libravix_types_json.so.*"

@@ -1,4 +1,6 @@
-// The rotating area, by itself: this program has its own copy of the class, which the library does not export.
+// The rotating area and its lock, which the library does not export: this program has the area, and the formatters that
+// use it, as a copy of its own.
+#include "ravix_types_str_convert.h"
 #include "ravix_types_str_ring_buffer.hpp"
 
 #include "golden.hpp"
@@ -7,10 +9,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <random>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -93,6 +98,23 @@ TEST(RingBuffer, CutsATextThatCannotBeFormatted) {
   EXPECT_EQ(0U, std::string(ring->write_and_finish("%ls", static_cast<const wchar_t *>(unknown))).find("begin "));
   EXPECT_EQ(harness::logged(log), "\n    ravix src/ravix_types_str_ring_buffer vwrite: String is too long!");
   EXPECT_STREQ("next", ring->write_and_finish("%s", "next"));
+}
+
+// Built in place, elsewhere, and by a printf format.
+TEST(Formatters, BeginNoTextUntilTheLockIsFree) {
+  const auto in_place = [] { return ravix_str_bitrate(1); };
+  const auto elsewhere = [] { return ravix_str_capabilities(1); };
+  const auto by_format = [] { return ravix_str_timestamp(1); };
+  for (const char *(*format)() : {+in_place, +elsewhere, +by_format}) {
+    std::unique_lock lock(zel::ravix::format_mutex);
+    std::atomic<bool> is_made = false;
+    std::thread other([&] { is_made = format() != nullptr; });
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_FALSE(is_made);
+    lock.unlock();
+    other.join();
+    EXPECT_TRUE(is_made);
+  }
 }
 
 } // namespace

@@ -13,8 +13,6 @@
 #include <atomic>
 #include <barrier>
 #include <bitset>
-#include <cctype>
-#include <chrono>
 #include <clocale>
 #include <cstdint>
 #include <cstdlib>
@@ -37,7 +35,6 @@ namespace {
 std::atomic<std::size_t> allocations = 0; // by C++ code
 std::int64_t wall_ahead = 0;              // of the steady clock, in nanoseconds
 bool no_local_time = false;
-std::atomic<bool> hold_ssids = false, ssid_is_held = false;
 constexpr std::time_t seconds_east = 19800; // of the time zone: 5:30 hours
 
 } // namespace
@@ -69,15 +66,6 @@ clock_gettime(clockid_t clock, std::timespec *now) noexcept(noexcept(clock_getti
   now->tv_sec = static_cast<std::time_t>(time / second);
   now->tv_nsec = static_cast<long>(time % second);
   return 0;
-}
-
-// Which characters are printed, in the middle of an SSID's text, where a test can hold it.
-extern "C" [[gnu::visibility("default")]] int isprint(int character) noexcept(noexcept(isprint(character))) {
-  if (hold_ssids) {
-    ssid_is_held = true;
-    hold_ssids.wait(true);
-  }
-  return character >= 0x20 && character < 0x7F ? 1 : 0;
 }
 
 namespace {
@@ -274,31 +262,6 @@ TEST(Area, ATextChangesNothingBehindItsEnd) {
         place = is_fixed ? place : behind;
       }
     }
-  }
-}
-
-// An SSID is held when half of its text is made.
-TEST(Area, NoTextIsBegunUntilAnotherOneIsFinished) {
-  const auto format = [](int form) { return form == 0 ? ravix_str_timestamp(1) : ravix_str_bitrate(1); };
-  for (const int form : {0, 1}) {
-    hold_ssids = true;
-    ssid_is_held = false;
-    std::atomic<bool> is_made = false;
-    std::thread slow([] {
-      const ravix_ssid_t ssid = {1, {'x'}};
-      EXPECT_STREQ(ravix_str_ssid(&ssid, true), "'x' (len=1)");
-    });
-    while (!ssid_is_held) {
-      std::this_thread::yield();
-    }
-    std::thread other([&] { is_made = format(form) != nullptr; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    EXPECT_FALSE(is_made) << form;
-    hold_ssids = false;
-    hold_ssids.notify_all();
-    slow.join();
-    other.join();
-    EXPECT_TRUE(is_made);
   }
 }
 

@@ -110,7 +110,8 @@ std::string expanded(const std::string &input) {
       {"\\{VHT (.*), (.*), (.*)\\}", "\tVHT operation:\n\t\t * channel width: $1\n\t\t * center freq segment 1: $2\n"
                                      "\t\t * center freq segment 2: $3"},
       {"\\{HE (.*), (.*), (.*)\\}", "\tHE Operation:\n\t\tx\n\t\t\tChannel Width: $1\n"
-                                    "\t\t\tCenter Frequency Segment 0: $2\n\t\t\tCenter Frequency Segment 1: $3"}};
+                                    "\t\t\tCenter Frequency Segment 0: $2\n\t\t\tCenter Frequency Segment 1: $3"},
+      {"\\{band (.)\\}", "Wiphy phy7\n\tBand $1:\n\t\t\tHT20/HT40\n\t\tVHT Capabilities (0x0):\n\t\tFrequencies:"}};
   std::string text = input;
   for (const auto &[word, meaning] : words)
     text = std::regex_replace(text, std::regex(word), meaning);

@@ -175,8 +175,7 @@ class Hunt:
         lines[mutant.line - 1] = mutant.mutated()
         try:
             source.write_text("\n".join(lines))
-            targets = ["ravix_types"] + (["test_ring_buffer"] if "ring_buffer" in mutant.path else [])
-            if tree.make(*targets) != 0:
+            if tree.make("ravix_types", "test_ring_buffer") != 0:  # which has sources of the library in it
                 return "does not compile"
             if tree.digest() == tree.original:
                 return "same code"

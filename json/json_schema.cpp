@@ -371,12 +371,17 @@ template <class R> std::string schema_of() {
   return schema.text();
 }
 
+template <class Kind>
+concept owned_record = requires(const Kind &field) {
+  []<auto Member>(const owned<Member> &) {}(field);
+};
+
 // Of a field that is `same` as in the whole record unless it is a record itself.
 template <class Kind> std::string differing(const Kind & /*field*/, const std::string &same, bool is_tagged) {
   if constexpr (requires { typename Kind::T; }) {
     using T = typename Kind::T;
     const std::string part = "{\"$ref\": " + reference(name_of<T>() + (is_object<T>() ? "_diff" : "")) + "}";
-    return is_tagged || std::is_base_of_v<owning_kind, Kind> ? "{\"anyOf\": " + any_of(type("null"), part) + "}" : part;
+    return is_tagged || owned_record<Kind> ? "{\"anyOf\": " + any_of(type("null"), part) + "}" : part;
   }
   return same;
 }

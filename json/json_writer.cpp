@@ -106,7 +106,7 @@ void writer::magnitude(bool is_negative, std::uint64_t value) {
   char *begin = room(longest);
   *begin = '-';
   begin += is_negative ? 1 : 0;
-  value = is_negative ? 0 - value : value;
+  value = is_negative ? ~value + 1 : value;
   // Few exceed 32 bits, and divisions of 64 take several times as long on a processor that has no instruction for them.
   const auto low = static_cast<std::uint32_t>(value);
   end_ = (low == value ? std::to_chars(begin, begin + 20, low) : std::to_chars(begin, begin + 20, value)).ptr;

@@ -35,10 +35,29 @@ template <class Meaning, class T> std::string pattern(T sample) {
   return at == std::string::npos ? text : text.replace(at, number.size(), "{}");
 }
 
-template <class T> std::string value_facts(const auto &names) {
+// The values of type T that have texts of their own.
+template <class Meaning, class T> std::string names_of() {
   json all("{}");
-  for (std::size_t i = 0; i < names.count; ++i) {
-    all.add(std::to_string(static_cast<std::int64_t>(static_cast<T>(names.values[i]))), quoted(names.name(i)));
+  const auto add = [&](auto value) {
+    const auto stored = static_cast<T>(value);
+    all.add(std::to_string(static_cast<std::int64_t>(stored)), quoted(shown<Meaning>(stored)));
+  };
+  if constexpr (requires { Meaning::names; }) {
+    for (const auto value : Meaning::names.values) {
+      add(value);
+    }
+  } else if constexpr (Meaning::empty_is_none) {
+    add(Meaning::empty);
+  }
+  if constexpr (std::is_same_v<Meaning, meaning::channel_frequency>) {
+    for (const std::uint32_t band : {RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAND_5GHZ, RAVIX_RADIO_BAND_6GHZ}) {
+      for (std::uint32_t channel = 1; channel < 256; ++channel) {
+        const std::uint32_t frequency = ravix_frequency_from_channel_and_band(channel, band);
+        if (ravix_frequency_to_radio_band(frequency) == band && ravix_frequency_to_channel(frequency) == channel) {
+          add(frequency);
+        }
+      }
+    }
   }
   return all.text();
 }
@@ -46,44 +65,23 @@ template <class T> std::string value_facts(const auto &names) {
 // Of values of type T.
 template <class Meaning, class T> std::string facts_of() {
   json facts("{}");
-  constexpr value_kind kind = Meaning::kind;
-  if constexpr (kind == value_kind::flags) {
-    const name_list names = Meaning::names;
+  if constexpr (Meaning::kind == value_kind::flags) {
     json bits("[]");
+    const name_list names = Meaning::names;
     for (std::size_t i = 0; i < names.count; ++i) {
       bits.add("[" + std::to_string(__builtin_ctzll(names.values[i])) + ", " + quoted(names.name(i)) + "]");
     }
     facts.add("flags", bits.text());
-  } else if constexpr (kind == value_kind::bits) {
+  } else if constexpr (Meaning::kind == value_kind::bits) {
     facts.add("bits", std::to_string(8 * sizeof(T)));
-  } else if constexpr (kind == value_kind::timestamp) {
+  } else if constexpr (Meaning::kind == value_kind::timestamp) {
     facts.add("timestamp", std::to_string(Meaning::empty));
-  } else if constexpr (kind == value_kind::flag) {
-    facts.add("otherwise", quoted(shown<Meaning>(T{1})));
-    facts.add("names", "{\"0\": " + quoted(shown<Meaning>(T{0})) + "}");
-  } else if constexpr (kind == value_kind::name || kind == value_kind::identifier) {
-    facts.add("names", value_facts<T>(name_list(Meaning::names)));
-    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", quoted(pattern<Meaning>(T{99})));
   } else {
-    json names("{}");
-    if constexpr (Meaning::empty_is_none) {
-      names.add(std::to_string(Meaning::empty), quoted(shown<Meaning>(static_cast<T>(Meaning::empty))));
-    }
     if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
       facts.add("most", "[100, " + quoted(pattern<Meaning>(T{101})) + "]");
     }
-    if constexpr (std::is_same_v<Meaning, meaning::channel_frequency>) {
-      for (const std::uint32_t band : {RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAND_5GHZ, RAVIX_RADIO_BAND_6GHZ}) {
-        for (std::uint32_t channel = 1; channel < 256; ++channel) {
-          const std::uint32_t frequency = ravix_frequency_from_channel_and_band(channel, band);
-          if (ravix_frequency_to_radio_band(frequency) == band && ravix_frequency_to_channel(frequency) == channel) {
-            names.add(std::to_string(frequency), quoted(ravix_str_wifi_freq(frequency)));
-          }
-        }
-      }
-    }
-    facts.add("otherwise", quoted(pattern<Meaning>(T{99})));
-    facts.add("names", names.text());
+    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", quoted(pattern<Meaning>(T{99})));
+    facts.add("names", names_of<Meaning, T>());
   }
   return facts.text();
 }
@@ -103,26 +101,30 @@ template <class Kind> std::string field_facts(const Kind & /*field*/) {
   return "";
 }
 
-// What two alternatives depend on: the field before them, and which of its values stand for which.
-template <class R, class Kind> std::string alternatives_of(const Kind &field) {
+// Which values of a number stand for which of the two alternatives of a field.
+template <auto Member, class Meaning>
+std::string alternatives_by(const scalar<Member, Meaning> & /*tag*/, const auto &field) {
+  json values("{}");
+  for (int value = 0; value < 256; ++value) {
+    record_of<Member> r{};
+    r.*Member = static_cast<value_of<Member>>(value);
+    if (const int which = field.which(r); which != 0) {
+      values.add(std::to_string(value), quoted(which == 1 ? field.first.name : field.second.name));
+    }
+  }
+  return values.text();
+}
+std::string alternatives_by(const auto & /*no number*/, const auto & /*field*/) {
+  return "{}";
+}
+
+// The numbers of a record on which the alternatives of the field depend.
+template <class R> std::string alternatives_of(const auto &field) {
   json all("{}");
   if constexpr (requires { field.first; }) {
     for_each_field<R>([&](const auto &tag) {
-      json values("{}");
-      tag.members(R{}, [&](const auto &member) {
-        using T = std::remove_cvref_t<decltype(member)>;
-        if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {
-          for (unsigned value = 0; value < 256; ++value) {
-            R r{};
-            *reinterpret_cast<T *>(reinterpret_cast<char *>(&r) + tag.offset) = static_cast<T>(value);
-            if (const int which = field.which(r); which != 0) {
-              values.add(std::to_string(value), quoted(which == 1 ? field.first.name : field.second.name));
-            }
-          }
-        }
-      });
-      if (values.text() != "{}") {
-        all.add(tag.name, values.text());
+      if (const std::string values = alternatives_by(tag, field); values != "{}") {
+        all.add(tag.name, values);
       }
     });
   }

@@ -68,89 +68,82 @@ def octets_text(value):
     return "-".join((shown[:8], shown[8:12], shown[12:16], shown[16:20], shown[20:]))
 
 
-class ChannelInfo:
+def channel_info_text(value):
     """primary/centre/width in MHz/puncture map; the range of channels is left out."""
+    width = field_text(TEXTS[RECORDS["ravix_channel_info"]["fields"]["channel_width"]], value["channel_width"])
+    return "{:4}/{:4}/{:>3}/{:04x}".format(
+        int(value["primary_freq"]) // 1000,
+        int(value["center_freq"]) // 1000,
+        width.split()[0] if width.endswith("MHz") else "INV",
+        int(value["puncture_map"]),
+    )
 
-    def __init__(self, value):
+
+def ip_addr_text(value):
+    version = int(value["version"])
+    octet = octets(value["addr"], 16)
+    if version == 1:
+        return ".".join(str(o) for o in octet[:4])
+    if version == 2:
+        return ":".join(f"{octet[i] << 8 | octet[i + 1]:x}" for i in range(0, 16, 2))
+    return f"<Invalid IP version: {version}>"
+
+
+def ssid_text(value):
+    length = int(value["len"])
+    shown = octets(value["ssid"], min(length, 32))
+    printable = [0x20 <= o < 0x7F for o in shown]
+    text = "'" + "".join(chr(o) if p else " " for o, p in zip(shown, printable)) + "'"
+    dump = "" if all(printable) else "/[ " + "".join(f"{o:02x} " for o in shown) + "]"
+    return f"{text}{dump} (len={length})"
+
+
+def tlv_text(value):
+    length = int(value["len"])
+    head = f"type {int(value['type'])}, length {length}"
+    if length == 0:
+        return head
+    if not int(value["value"]):
+        return f"{head}: {NULL}"
+    return head + ": " + " ".join(f"{o:02x}" for o in octets(value["value"], length))
+
+
+VALUES = {
+    "ravix_channel_info": channel_info_text,
+    "ravix_ip_addr": ip_addr_text,
+    "ravix_key": lambda value: "[SECRET]",
+    "ravix_ssid": ssid_text,
+    "ravix_tlv": tlv_text,
+}
+
+
+class Text:
+    """A value of one line."""
+
+    def __init__(self, value, text):
         self.value = value
+        self.text = text
 
     def to_string(self):
-        fields = RECORDS["ravix_channel_info"]["fields"]
-        width = field_text(TEXTS[fields["channel_width"]], self.value["channel_width"])
-        return "{:4}/{:4}/{:>3}/{:04x}".format(
-            int(self.value["primary_freq"]) // 1000,
-            int(self.value["center_freq"]) // 1000,
-            width.split()[0] if width.endswith("MHz") else "INV",
-            int(self.value["puncture_map"]),
-        )
-
-
-class IpAddress:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        version = int(self.value["version"])
-        octet = octets(self.value["addr"], 16)
-        if version == 1:
-            return ".".join(str(o) for o in octet[:4])
-        if version == 2:
-            return ":".join(f"{octet[i] << 8 | octet[i + 1]:x}" for i in range(0, 16, 2))
-        return f"<Invalid IP version: {version}>"
-
-
-class Key:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        return "[SECRET]"
-
-
-class Ssid:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        length = int(self.value["len"])
-        shown = octets(self.value["ssid"], min(length, 32))
-        printable = [0x20 <= o < 0x7F for o in shown]
-        text = "'" + "".join(chr(o) if p else " " for o, p in zip(shown, printable)) + "'"
-        dump = "" if all(printable) else "/[ " + "".join(f"{o:02x} " for o in shown) + "]"
-        return f"{text}{dump} (len={length})"
-
-
-class Tlv:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        length = int(self.value["len"])
-        head = f"type {int(self.value['type'])}, length {length}"
-        if length == 0:
-            return head
-        if not int(self.value["value"]):
-            return f"{head}: {NULL}"
-        return head + ": " + " ".join(f"{o:02x}" for o in octets(self.value["value"], length))
-
-
-class Mac:
-    def __init__(self, value):
-        self.value = value
-
-    def to_string(self):
-        return octets_text(self.value)
+        return self.text(self.value)
 
 
 class Record:
-    """A record by its field list."""
+    """A record by its field list; a table as its elements, after whatever else it holds."""
 
     def __init__(self, value):
+        struct = bare(value.type)
         self.value = value
-        self.facts = RECORDS[bare(value.type).tag]
+        self.tag = struct.tag
+        self.facts = RECORDS.get(self.tag, {"fields": {}})
+        self.is_table = {"count", "data"} <= {field.name for field in struct.fields()}
 
     def to_string(self):
-        return bare(self.value.type).tag + "_t"
+        if not self.is_table:
+            return self.tag + "_t"
+        count = int(self.value["count"])
+        lost = " without an array" if count and not int(self.value["data"]) else ""
+        return f"{self.tag}_t of {count}{lost}"
 
     def members(self):
         """The names of the fields, of two alternatives only the one that there is."""
@@ -162,9 +155,10 @@ class Record:
                     if str(int(self.value[tag])) in names:
                         yield names[str(int(self.value[tag]))]
 
-    def child(self, name, value):
+    def child(self, name):
+        value = self.value[name]
         number = self.facts["fields"].get(name)
-        if number is not None and name != "data":
+        if number is not None:
             return field_text(TEXTS[number], value)
         field_type = bare(value.type)
         if field_type.code == gdb.TYPE_CODE_ARRAY and bare(field_type.target()).name == "char":
@@ -180,39 +174,13 @@ class Record:
 
     def children(self):
         for name in self.members():
-            yield name, self.child(name, self.value[name])
-
-
-class Table(Record):
-    """A table as its elements, after whatever else it holds."""
-
-    def __init__(self, value):
-        self.value = value
-        self.facts = RECORDS.get(bare(value.type).tag, {"fields": {}})
-
-    def to_string(self):
-        count = int(self.value["count"])
-        lost = " without an array" if count and not int(self.value["data"]) else ""
-        return f"{bare(self.value.type).tag}_t of {count}{lost}"
-
-    def children(self):
-        number = self.facts["fields"].get("data")
-        for name in self.members():
-            if name not in ("count", "data"):
-                yield name, self.child(name, self.value[name])
-        if int(self.value["data"]):
+            if not (self.is_table and name in ("count", "data")):
+                yield name, self.child(name)
+        if self.is_table and int(self.value["data"]):
+            number = self.facts["fields"].get("data")
             for i in range(int(self.value["count"])):
                 element = self.value["data"][i]
                 yield f"[{i}]", element if number is None else field_text(TEXTS[number], element)
-
-
-VALUES = {
-    "ravix_channel_info": ChannelInfo,
-    "ravix_ip_addr": IpAddress,
-    "ravix_key": Key,
-    "ravix_ssid": Ssid,
-    "ravix_tlv": Tlv,
-}
 
 
 class Printers(gdb.printing.PrettyPrinter):
@@ -223,15 +191,14 @@ class Printers(gdb.printing.PrettyPrinter):
 
     def __call__(self, value):
         if re.fullmatch(r"(const )?ravix_mac_t", str(value.type)):
-            return Mac(value)
+            return Text(value, octets_text)
         struct = bare(value.type)
-        if struct.code != gdb.TYPE_CODE_STRUCT or not struct.tag:
+        if struct.code != gdb.TYPE_CODE_STRUCT or not (struct.tag or "").startswith("ravix_"):
             return None
         if struct.tag in VALUES:
-            return VALUES[struct.tag](value)
-        if struct.tag.startswith("ravix_") and {"count", "data"} <= {field.name for field in struct.fields()}:
-            return Table(value)
-        return Record(value) if struct.tag in RECORDS else None
+            return Text(value, VALUES[struct.tag])
+        record = Record(value)
+        return record if struct.tag in RECORDS or record.is_table else None
 
 
 gdb.printing.register_pretty_printer(None, Printers(), replace=True)

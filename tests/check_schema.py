@@ -31,7 +31,9 @@ failures = []
 
 
 def expect(definition, value, is_valid):
-    if validators[definition].is_valid(value) != is_valid:
+    if definition not in validators:
+        failures.append(f"{definition} is not in the schema")
+    elif validators[definition].is_valid(value) != is_valid:
         wrong = next(validators[definition].iter_errors(value), None)
         failures.append(f"{definition}: {wrong.message if is_valid else 'accepts ' + json.dumps(value)}")
 

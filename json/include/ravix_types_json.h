@@ -18,36 +18,11 @@
  * # Form {#json_form}
  *
  * The text is compact and in UTF-8; ravix_json_indent() breaks it into lines. A record is an object whose keys are the
- * names of its fields, in their order. Every field is there, but of two that share their storage only the one that the
- * record has at present. What a value is follows from what its field means:
+ * names of its fields, in their order, and a table is an array. Values of enumerations and flags stand by their names,
+ * `null` for what is not known or not there, and "[SECRET]" for keys and secrets. A difference is a JSON merge patch
+ * (RFC 7396) with the fields that differ; `{}` for records that are equal by their `_compare`.
  *
- * | Field | JSON |
- * |---|---|
- * | number, bits without names | number, in the unit of the field |
- * | the value that stands for "not known" or "none" | `null` |
- * | value of an enumeration, reserved identifier, status | its name as a string; without a name its number |
- * | set of flags | array of their names; bits without a name as `"0x..."` at its end |
- * | `bool` | `true` or `false` |
- * | MAC address, UUID, IP address | string as ravix_str_mac(), ravix_str_uuid() and ravix_str_ip_addr() write it;
- * `null` for what is no IP address | | time stamp | number of ms | | floating-point number | the shortest that is read
- * back as the same; `null` if it is not finite | | text, SSID | string; `{"hex": "..."}` with its octets if they are
- * not UTF-8 or have a zero among them | | type-length-value element | `{"type": ..., "hex": "..."}` | | key, secret |
- * `"[SECRET]"`; neither its octets nor their number are told | | record, owned record | object; `null` when there is
- * none | | text that is owned | as a text; `null` when there is none | | pointer that is not owned | `"0x..."`; `null`
- * for null | | table | array; one whose entries are all that it has is the array itself |
- *
- * Numbers may exceed the 2^53 up to which some readers of JSON are exact: time stamps, counters of 64 bits.
- *
- * # Differences {#json_diff}
- *
- * A difference is a JSON merge patch (RFC 7396): applied to the JSON of the reference it gives the JSON of the value,
- * for readers to whom a member that is `null` and one that is absent are the same. (A merge patch has no other way to
- * say `null`: there it removes.) It is `{}` for records that are equal by their `_compare`: nothing is to be applied.
- * Otherwise it has the fields that differ, and no others: a record that is part of the record has those of its own that
- * differ; everything else, tables as well, stands there whole. A field that shares its storage and is gone is `null`. A
- * field that the comparison passes over is there if it differs and the records are not equal, as print_diff() shows it.
- * A secret that differs is `"[SECRET]"`. What is not an object in JSON, such as a table or an SSID, is its own
- * difference.
+ * All of it, with an example of each kind of field, is on one page: [Records as JSON](docs/json.md).
  *
  * # Contract
  *

@@ -40,7 +40,7 @@ template <class Meaning, class T> std::string names_of() {
   json all("{}");
   const auto add = [&](auto value) {
     const auto stored = static_cast<T>(value);
-    all.add(std::to_string(static_cast<std::int64_t>(stored)), quoted(shown<Meaning>(stored)));
+    all.add(std::to_string(static_cast<std::int64_t>(stored)), in_quotes(shown<Meaning>(stored)));
   };
   if constexpr (requires { Meaning::names; }) {
     for (const auto value : Meaning::names.values) {
@@ -69,7 +69,7 @@ template <class Meaning, class T> std::string facts_of() {
     json bits("[]");
     const name_list names = Meaning::names;
     for (std::size_t i = 0; i < names.count; ++i) {
-      bits.add("[" + std::to_string(__builtin_ctzll(names.values[i])) + ", " + quoted(names.name(i)) + "]");
+      bits.add("[" + std::to_string(__builtin_ctzll(names.values[i])) + ", " + in_quotes(names.name(i)) + "]");
     }
     facts.add("flags", bits.text());
   } else if constexpr (Meaning::kind == value_kind::bits) {
@@ -78,9 +78,9 @@ template <class Meaning, class T> std::string facts_of() {
     facts.add("timestamp", std::to_string(Meaning::empty));
   } else {
     if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
-      facts.add("most", "[100, " + quoted(pattern<Meaning>(T{101})) + "]");
+      facts.add("most", "[100, " + in_quotes(pattern<Meaning>(T{101})) + "]");
     }
-    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", quoted(pattern<Meaning>(T{99})));
+    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", in_quotes(pattern<Meaning>(T{99})));
     facts.add("names", names_of<Meaning, T>());
   }
   return facts.text();
@@ -109,7 +109,7 @@ std::string alternatives_by(const scalar<Member, Meaning> & /*tag*/, const auto 
     record_of<Member> r{};
     r.*Member = static_cast<value_of<Member>>(value);
     if (const int which = field.which(r); which != 0) {
-      values.add(std::to_string(value), quoted(which == 1 ? field.first.name : field.second.name));
+      values.add(std::to_string(value), in_quotes(which == 1 ? field.first.name : field.second.name));
     }
   }
   return values.text();

@@ -109,20 +109,20 @@ private:
 
 json described(const std::string &text) {
   json schema("{}");
-  schema.add("description", quoted(text));
+  schema.add("description", in_quotes(text));
   return schema;
 }
 
 // ---- values
 
 std::string reference(const std::string &name) {
-  return quoted("#/$defs/" + name);
+  return in_quotes("#/$defs/" + name);
 }
 std::string any_of(const std::string &first, const std::string &second) {
   return json("[]").add(first).add(second).text();
 }
 std::string type(std::string_view name) {
-  return "{\"type\": " + quoted(name) + "}";
+  return "{\"type\": " + in_quotes(name) + "}";
 }
 
 std::map<std::string, std::string> definitions; // other than of records
@@ -149,14 +149,14 @@ template <class Meaning> std::string named() {
   const name_list names = Meaning::names;
   json texts("[]"), values("[]");
   for (std::size_t i = 0; i < names.count; ++i) {
-    texts.add(quoted(names.name(i)));
+    texts.add(in_quotes(names.name(i)));
     values.add(std::to_string(names.values[i]));
   }
   const std::string name = list_name<Meaning>();
   const std::string one_of = "{\"enum\": " + texts.text() + "}";
   json schema = described(told.of(name));
   if constexpr (Meaning::kind == value_kind::flags) {
-    schema.add("type", quoted("array"));
+    schema.add("type", in_quotes("array"));
     const std::string others = std::string(R"({"type": "string", "pattern": )") + bits_pattern + '}';
     schema.add("items", "{\"anyOf\": " + any_of(one_of, others) + "}");
     schema.add("uniqueItems", "true");
@@ -179,7 +179,7 @@ template <class Meaning> std::string pattern() {
   for (const char character : shown.all) {
     out += character == 'F' ? "[0-9A-F]" : std::string(1, character);
   }
-  return quoted(out + '$');
+  return in_quotes(out + '$');
 }
 
 // The range of a number. A lowest or highest value that stands for none does not count.
@@ -203,15 +203,15 @@ template <class Meaning, class T> void add_value(json &schema) {
       add_range<Meaning, std::conditional_t<std::is_same_v<Meaning, meaning::status>, std::int32_t, T>>(schema);
     }
   } else if constexpr (kind == value_kind::flag) {
-    schema.add("type", quoted("boolean"));
+    schema.add("type", in_quotes("boolean"));
   } else if constexpr (kind == value_kind::octets) {
-    schema.add("type", quoted("string")).add("pattern", pattern<Meaning>());
+    schema.add("type", in_quotes("string")).add("pattern", pattern<Meaning>());
   } else if constexpr (std::is_floating_point_v<T>) {
     schema.add("type", R"(["number", "null"])");
   } else if constexpr (std::is_pointer_v<T>) {
     schema.add("type", R"(["string", "null"])").add("pattern", bits_pattern);
   } else {
-    schema.add("type", Meaning::empty_is_none ? R"(["integer", "null"])" : quoted("integer"));
+    schema.add("type", Meaning::empty_is_none ? R"(["integer", "null"])" : in_quotes("integer"));
     add_range<Meaning, T>(schema);
   }
 }
@@ -226,7 +226,7 @@ std::string text() {
           .text();
   definitions["octets"] =
       described("Octets that are no text.")
-          .add("type", quoted("object"))
+          .add("type", in_quotes("object"))
           .add("properties", std::string(R"({"hex": {"type": "string", "pattern": )") + hexadecimal + "}}")
           .add("required", R"(["hex"])")
           .add("additionalProperties", "false")
@@ -260,7 +260,7 @@ template <auto Member, class Meaning> void add_field(json &schema, const array<M
     json item("{}");
     add_value<Meaning, std::uint8_t>(item);
     const std::string count = std::to_string(field.size);
-    schema.add("type", quoted("array")).add("items", item.text()).add("minItems", count).add("maxItems", count);
+    schema.add("type", in_quotes("array")).add("items", item.text()).add("minItems", count).add("maxItems", count);
   }
 }
 template <auto Length, auto Octets> void add_field(json &schema, const counted_octets<Length, Octets> & /*field*/) {
@@ -273,7 +273,7 @@ template <auto Member> void add_field(json &schema, const owned_text<Member> & /
   schema.add("anyOf", any_of(type("null"), "{\"$ref\": " + reference(text()) + "}"));
 }
 template <auto Length, auto Octets> void add_field(json &schema, const owned_octets<Length, Octets> & /*field*/) {
-  schema.add("type", quoted("string")).add("pattern", hexadecimal);
+  schema.add("type", in_quotes("string")).add("pattern", hexadecimal);
 }
 template <auto Member> void add_field(json &schema, const nested<Member> & /*field*/) {
   schema.add("$ref", reference(name_of<value_of<Member>>()));
@@ -291,10 +291,10 @@ template <class T, class Meaning> void add_field(json &schema, const entries<T, 
   } else {
     add_value<Meaning, element>(item);
   }
-  schema.add("type", quoted("array")).add("items", item.text());
+  schema.add("type", in_quotes("array")).add("items", item.text());
 }
 template <class Kind> void add_field(json &schema, const secret<Kind> & /*field*/) {
-  schema.add("const", quoted("[SECRET]"));
+  schema.add("const", in_quotes("[SECRET]"));
 }
 
 // Calls visit(name, field, is_tagged) for what may be a member of the record's object: of alternatives each.
@@ -360,9 +360,9 @@ template <class R> std::string schema_of() {
       json property = described(description(record, field));
       add_field(property, field);
       properties.add(name, property.text());
-      (is_tagged ? alternatives : required).add(quoted(name));
+      (is_tagged ? alternatives : required).add(in_quotes(name));
     });
-    schema.add("type", quoted("object")).add("properties", properties.text()).add("required", required.text());
+    schema.add("type", in_quotes("object")).add("properties", properties.text()).add("required", required.text());
     schema.add("additionalProperties", "false");
     if (!alternatives.is_empty()) {
       schema.add("not", "{\"required\": " + alternatives.text() + "}");
@@ -373,7 +373,7 @@ template <class R> std::string schema_of() {
 
 template <class Kind>
 concept owned_record = requires(const Kind &field) {
-  []<auto Member>(const owned<Member> &) {}(field);
+  []<auto Member>(const owned<Member> &){}(field);
 };
 
 // Of a field that is `same` as in the whole record unless it is a record itself.
@@ -395,7 +395,7 @@ template <class R> std::string difference_schema_of() {
       properties.add(name,
                      differing(field, "{\"$ref\": " + reference(record + "/properties/" + name) + "}", is_tagged));
     });
-    schema.add("type", quoted("object")).add("properties", properties.text()).add("additionalProperties", "false");
+    schema.add("type", in_quotes("object")).add("properties", properties.text()).add("additionalProperties", "false");
   } else {
     schema.add("anyOf", any_of(R"({"type": "object", "maxProperties": 0})", reference_to<R>()));
   }
@@ -414,8 +414,8 @@ std::string whole_schema(const std::string &version) {
     all.add(name, schema);
   }
   lines schema(2);
-  schema.add("$schema", quoted("https://json-schema.org/draft/2020-12/schema"));
-  schema.add("title", quoted("Records of libravix_types " + version + " as JSON"));
+  schema.add("$schema", in_quotes("https://json-schema.org/draft/2020-12/schema"));
+  schema.add("title", in_quotes("Records of libravix_types " + version + " as JSON"));
   schema.add("$defs", all.text());
   return schema.text();
 }

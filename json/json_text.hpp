@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Of printable text.
-inline std::string quoted(std::string_view text) {
+inline std::string in_quotes(std::string_view text) {
   std::string out = "\"";
   for (const char character : text) {
     out += character == '"' || character == '\\' ? "\\" : "";
@@ -24,7 +24,7 @@ public:
     text_ += (is_empty() ? "" : separator_) + item;
     return *this;
   }
-  json &add(std::string_view key, const std::string &value) { return add(quoted(key) + ": " + value); }
+  json &add(std::string_view key, const std::string &value) { return add(in_quotes(key) + ": " + value); }
   bool is_empty() const { return text_.size() == 1; }
   std::string text() const { return text_ + end_; }
 

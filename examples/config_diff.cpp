@@ -307,11 +307,11 @@ void print(std::ostream &os, const configuration &config, const configuration *r
 using json_members = std::vector<std::pair<std::string, std::string>>;
 
 std::string json_object(const json_members &members) {
-  std::string object;
+  std::string object = "{";
   for (const auto &[key, value] : members) {
-    object += (object.empty() ? "{\"" : ",\"") + key + "\":" + value;
+    object.append(object.size() == 1 ? "\"" : ",\"").append(key).append("\":").append(value);
   }
-  return object.empty() ? "{}" : object + '}';
+  return object += '}';
 }
 
 // Adds a record, or what differs in it from the reference, if anything does.

@@ -152,7 +152,7 @@ template <class Meaning> std::string named() {
     texts.add(in_quotes(names.name(i)));
     values.add(std::to_string(names.values[i]));
   }
-  const std::string name = list_name<Meaning>();
+  std::string name = list_name<Meaning>();
   const std::string one_of = "{\"enum\": " + texts.text() + "}";
   json schema = described(told.of(name));
   if constexpr (Meaning::kind == value_kind::flags) {

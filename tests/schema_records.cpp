@@ -4,6 +4,7 @@
 
 #include "ravix_types_json.hpp"
 
+#include <cstddef>
 #include <iostream>
 #include <string>
 #include <string_view>
@@ -33,7 +34,8 @@ template <class R> void print_all(const std::string &definition) {
   for (const variety kind : {variety::usual, variety::full, variety::hostile}) {
     for (unsigned seed = 1; seed <= 6; ++seed) {
       const harness::sample<R> value(seed, kind);
-      const harness::sample<R> other(randomness(seed, seed * 3)); // the usual one of this seed, but for its end
+      const harness::sample<R> other(
+          randomness(seed, std::size_t{3} * seed)); // the usual one of this seed, but for its end
       print(definition, value.value);
       for (const harness::sample<R> *reference : {&empty, &value, &other}) {
         print_differences(definition, value.value, reference->value);

@@ -471,7 +471,8 @@ TEST(JsonWriters, RefuseNullArgumentsInOneLine) {
 // ---- lines and streams
 
 TEST(JsonLines, AreTheSameHoweverTheTextComes) {
-  const std::string texts[] = {text_of(scan_finished), text_of(home_network), R"("a{[\"\\",)", "[]", "{}", "[[],{}]"};
+  const std::string texts[] = {
+      text_of(scan_finished), text_of(home_network), R"(["a{[\"\\",{"\\\"]":1}])", "[]", "{}", "[[],{}]"};
   for (const std::string &text : texts) {
     for (const unsigned indent : {0U, 1U, 300U}) {
       const auto lines_of = [&](std::size_t piece) {
@@ -487,7 +488,7 @@ TEST(JsonLines, AreTheSameHoweverTheTextComes) {
         });
       };
       EXPECT_EQ(lines_of(1), lines_of(text.size()));
-      EXPECT_EQ(lines_of(7), json::accept(text) ? json::parse(text).dump(static_cast<int>(indent)) : lines_of(1));
+      EXPECT_EQ(lines_of(7), json::parse(text).dump(static_cast<int>(indent)));
     }
   }
 }

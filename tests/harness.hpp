@@ -82,7 +82,7 @@ private:
     fail_all_ = all;
   }
   void *request(void *old, std::size_t count, std::size_t size, const char *file, int line) {
-    requested_.emplace(file, line);
+    requested_.insert({file, line}); // which allocates for a new one only
     ++requests_;
     if (fail_at_ != 0 && (requests_ == fail_at_ || (fail_all_ && requests_ > fail_at_))) {
       failed_[fail_all_ ? 1 : 0].emplace(file, line);

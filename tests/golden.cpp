@@ -110,7 +110,9 @@ void expect_golden(const std::string &name, std::string_view text) {
 std::string logged(captured_log &log) {
   std::string all;
   for (const log_line &line : log.take()) {
-    all += "\n    " + line.name + ' ' + line.file + ' ' + line.function + ": " + line.text;
+    const bool has_fixed_line = line.function == "generic_create" || line.function == "generic_clone";
+    const std::string place = line.file + (has_fixed_line ? ':' + std::to_string(line.line) : "");
+    all += "\n    " + line.name + ' ' + place + ' ' + line.function + ": " + line.text;
   }
   return all;
 }

@@ -22,7 +22,7 @@ namespace harness {
 void expect_golden(const std::string &name, std::string_view text);
 
 // What has been logged since the log was last read: below each other, in a line of its own each, indented by four
-// blanks.
+// blanks. Of the functions whose lines log filters know, the line is told.
 std::string logged(captured_log &log);
 
 // A file of calls, each with its answer: "<call> = <answer>", or several in a line, with " // " between them; and below

@@ -160,13 +160,7 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
   harness::captured_log log;
   harness::golden_sections golden;
   const auto add = [&](const char *title, int result) {
-    std::string told = std::to_string(result);
-    for (const auto &line : log.take()) {
-      const bool of_a_frame = line.function == "generic_create" || line.function == "generic_clone"; // fixed lines
-      told += "\n" + line.file + (of_a_frame ? ":" + std::to_string(line.line) : "") + " " + line.function + ": ";
-      told += line.text;
-    }
-    golden.add(title, told);
+    golden.add(title, std::to_string(result) + harness::logged(log));
   };
   {
     harness::sample<ravix_get_scan_results_response_t> response;

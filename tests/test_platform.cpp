@@ -8,7 +8,6 @@
 
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
 
 namespace {
@@ -18,28 +17,6 @@ using zel::logging::ClogErrorFunction;
 using zel::logging::ClogStreamBuf;
 using ModuleAdapter = ClogAdapter<ClogErrorFunction<clogmod>, clogmod__err>;
 using LoggerAdapter = ClogAdapter<ClogErrorFunction<clogger>, clogger__err>;
-
-TEST(Slab, GivesZeroedBlocksTagsEveryRequestAndFailsAsToldKeepingTheOldBlock) {
-  harness::heap heap;
-  auto *block = static_cast<char *>(slab_dcalloc(3, 5, "src/a", 7));
-  EXPECT_EQ(std::string(block, 15), std::string(15, '\0'));
-  block = static_cast<char *>(slab_drealloc(block, 4096, "src/b", 8));
-  char *text = slab_dstrdup("twenty-four characters..", "src/c", 9); // no spare octet behind them
-  EXPECT_STREQ(text, "twenty-four characters..");
-  EXPECT_EQ(heap.requested(), (std::set<harness::heap::tag>{{"src/a", 7}, {"src/b", 8}, {"src/c", 9}}));
-  heap.fail_only(2);
-  void *second = slab_dcalloc(1, 1, "src/a", 1);
-  EXPECT_NE(second, nullptr);
-  EXPECT_EQ(slab_drealloc(block, 5000, "src/a", 2), nullptr);
-  heap.fail_from(1);
-  EXPECT_EQ(slab_dcalloc(1, 1, "src/a", 1), nullptr);
-  EXPECT_EQ(slab_dstrdup("", "src/a", 3), nullptr);
-  EXPECT_EQ(heap.live(), 3U);
-  for (void *old : {static_cast<void *>(text), static_cast<void *>(block), second, static_cast<void *>(nullptr)}) {
-    slab_cbcontext_free(old, "", 0);
-  }
-  EXPECT_EQ(heap.live(), 0U);
-}
 
 TEST(Log, WritesOneLinePerEndedLineWithItsCallSite) {
   harness::captured_log log;

@@ -24,6 +24,7 @@ int main(void) {
   (void)ravix_types_scan_table_add_entry(&event->scan_results->scan_table, &entry);
   (void)ravix_types_noisefloor_table_init(&event->scan_results->noisefloor_table, 1);
   event->scan_results->noisefloor_table.data[0].frequency = 2484000;
+  event->scan_results->noisefloor_table.data[0].noisefloor = 31;
 
   ravix_cfg_role_static_t *role = ravix_cfg_role_create();
   role->id = RAVIX_ID_ALL;

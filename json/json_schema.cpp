@@ -87,7 +87,9 @@ private:
   void take_member(const std::string &structure, const std::string &declaration) {
     const std::size_t begin = declaration.find("/**<");
     const std::size_t end = declaration.rfind(';', begin);
-    const std::size_t name_end = std::min(declaration.find('[', declaration.rfind(';', end - 1) + 1), end);
+    const std::size_t before = declaration.rfind(';', end - 1);
+    const std::size_t declared = before == std::string::npos ? 0 : before;
+    const std::size_t name_end = std::min(declaration.find('[', declared), end);
     const std::size_t name_begin = declaration.find_last_of(" *", name_end) + 1;
     add(structure + '.' + declaration.substr(name_begin, name_end - name_begin), declaration.substr(begin));
   }

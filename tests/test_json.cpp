@@ -208,6 +208,7 @@ TEST(Json, IsAsWritten) {
   add("scan_of_all_radios", scan_of_all_radios);
   add("heard[2]", heard[2]);
   add("channels[2]", channels[2]);
+  add("a width without a name", ravix_channel_info_t{5180000, 0, 2000, 0x000C});
   add("radio_airtime", radio_airtime);
   add("stations[1]", stations[1]);
   add("update_of_features", update_of_features);

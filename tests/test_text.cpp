@@ -125,7 +125,7 @@ template <class Value> formatters::value_type of_octets(const char *what, const 
             std::mt19937_64 random(value);
             alignas(Value) unsigned char octets[48];
             std::ranges::generate(octets, [&] { return static_cast<unsigned char>(random()); });
-            octets[0] &= value % 2 == 0 ? 3 : UINT8_MAX;
+            octets[0] = static_cast<unsigned char>(octets[0] & (value % 2 == 0 ? 3 : UINT8_MAX));
             return text_by(format, reinterpret_cast<const Value *>(octets));
           }};
 }

@@ -119,9 +119,13 @@ TEST(CommonValues, TlvsCompareByTheirReferences) {
   EXPECT_EQ(order(a, {2, 0, nullptr}), -1);
   EXPECT_EQ(order(a, {1, 2, octets}), 1);
   EXPECT_EQ(order(a, hollow), 1);
+  EXPECT_EQ(order(hollow, a), -1);
   EXPECT_EQ(order(hollow, hollow), 0);
   EXPECT_EQ(order(longest, longest), 0) << "more octets than a reference has";
+  const harness::heap heap;
   harness::sample<ravix_tlv_t> copy(1);
+  EXPECT_EQ(ravix_types_tlv_copy(&a, &copy.value), 0);
+  EXPECT_EQ(heap.size_of(copy.value.value), length);
   EXPECT_EQ(ravix_types_tlv_copy(&hollow, &copy.value), 0);
   EXPECT_EQ(copy.value.len, 0) << "a count without octets";
 }

@@ -57,6 +57,7 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
       } else {
         free(list);
         list = verb == "create" ? create(count) : nullptr;
+        EXPECT_EQ(heap.size_of(list), list != nullptr ? sizeof *list : 0);
       }
       return std::to_string(code) + ": " + (list == nullptr ? "none" : words(*list));
     };

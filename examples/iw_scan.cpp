@@ -170,7 +170,9 @@ constexpr known_element known_elements[] = {
 
 // The element of a heading, or null. The octets begin with the extension if the heading does not tell it.
 const known_element *find_element(std::string_view heading, std::string_view &octets) {
-  const auto printed = text::number(heading.substr(heading.find('(') + 1)).value_or(0) & 0xFFU;
+  const std::size_t bracket = heading.find('(');
+  const std::string_view behind = heading.substr(bracket == std::string_view::npos ? 0 : bracket + 1);
+  const auto printed = text::number(behind).value_or(0) & 0xFFU;
   uint32_t number = text::starts_with(heading, "Unknown Extension ID (") ? extended + printed
                     : text::starts_with(heading, "Unknown IE (")         ? printed
                                                                          : 0;

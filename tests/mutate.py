@@ -253,14 +253,13 @@ def main():
             print(f"  {path}: {of_file.get('caught', 0)} of {counted}")
     for mutant in accepted:
         print(f"known to survive: {mutant}\n    {known[mutant.key()]}")
-    faults = len(survived) - len(accepted)
-    score = 100 * caught / max(1, caught + faults)
+    score = 100 * caught / max(1, caught + len(survived))
     print(
         f"{len(mutants)} mutants: {len(results.get('does not compile', []))} do not compile, "
-        f"{len(results.get('same code', []))} are the same code, {len(accepted)} are known to be no faults; of the other "
-        f"{caught + faults}, {caught} caught, {faults} survived: {score:.1f} %"
+        f"{len(results.get('same code', []))} are the same code; of the other {caught + len(survived)}, "
+        f"{caught} caught, {len(survived)} survived ({len(accepted)} of them known to be no faults): {score:.1f} %"
     )
-    return 0 if score >= 95 else 1
+    return 0 if score >= 90 else 1
 
 
 sys.exit(main())

@@ -377,6 +377,16 @@ TEST(JsonDifferences, HaveNoMoreThanDiffers) {
   other.secret[0] = '!';
   EXPECT_EQ(diff_of(other, server.value), R"({"secret":"[SECRET]"})");
 
+  // Within a table that is equal otherwise the order does not show either.
+  ravix_cfg_wlan_security_t security{};
+  security.auth_servers = {1, &server.value};
+  ravix_cfg_wlan_security_t changed = security;
+  other = server.value;
+  other.index = 7;
+  changed.auth_servers.data = &other;
+  changed.pmf_mode = RAVIX_PMF_MODE_MANDATORY;
+  EXPECT_EQ(diff_of(changed, security), R"({"pmf_mode":"MANDATORY"})");
+
   ravix_cfg_role_config_ap_t config = *home_network.config_ap;
   ravix_cfg_role_static_t role = home_network;
   role.config_ap = &config;

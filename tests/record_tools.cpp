@@ -32,7 +32,13 @@ std::uint32_t randomness::up_to(std::uint32_t most) {
 }
 
 void randomness::bytes(void *memory, std::size_t size) {
-  std::generate_n(static_cast<unsigned char *>(memory), size, [&] { return static_cast<unsigned char>(up_to(255)); });
+  auto *octets = static_cast<char *>(memory);
+  std::generate_n(octets, size, [&] { return static_cast<char>(static_cast<unsigned char>(up_to(255))); });
+  // Only a secret has its mark: one that is found elsewhere would pass for a secret that is told.
+  for (char *end = octets + size, *mark = octets;
+       (mark = std::search(mark, end, secret_mark.begin(), secret_mark.end())) != end;) {
+    *mark = 'z';
+  }
 }
 
 void randomness::word(char *to, std::size_t longest) {

@@ -21,7 +21,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOGS = ROOT / "build-check-all"
 PAGES = [ROOT / "docs" / "reliability.md", ROOT / "docs" / "performance.md"]
 PICTURE = ROOT / "docs" / "performance.svg"
-LIBRARY = ["include", "src", "platform"]
+LIBRARY = ["include", "src", "json", "platform"]
 FAILED, TO_BE_RUN = "FAILED", "to be run"
 
 

@@ -10,22 +10,25 @@
 
 namespace {
 
-void check_json(const harness::record_type &type, const void *value, const void *reference) {
-  const std::string text = harness::json_text(type, value);
-  fuzz::require(harness::json::accept(text), "a record is JSON");
+harness::json read(const std::string &text) {
   fuzz::require(text.find(harness::secret_mark) == std::string::npos, "JSON tells no secret");
+  harness::json value = harness::json::parse(text, nullptr, false);
+  fuzz::require(!value.is_discarded(), "what is written is JSON");
+  return value;
+}
+
+void check_json(const harness::record_type &type, const void *value, const void *reference) {
+  const harness::json wanted = read(harness::json_text(type, value));
   if (type.compare == nullptr) {
     return;
   }
-  const std::string diff = harness::json_diff(type, value, reference);
-  const harness::json patch = harness::json::parse(diff, nullptr, false);
-  fuzz::require(!patch.is_discarded(), "a difference is JSON");
-  fuzz::require(diff.find(harness::secret_mark) == std::string::npos, "a difference tells no secret");
-  const bool is_equal = type.compare(value, reference) == 0;
-  fuzz::require(!is_equal || diff == "{}", "equal records have no difference");
-  fuzz::require(is_equal || harness::leads_to(harness::json::parse(harness::json_text(type, reference)), patch,
-                                              harness::json::parse(text)),
-                "a difference leads to the value");
+  const harness::json patch = read(harness::json_diff(type, value, reference));
+  if (type.compare(value, reference) == 0) {
+    fuzz::require(patch == harness::json::object(), "equal records have no difference");
+  } else {
+    fuzz::require(harness::leads_to(read(harness::json_text(type, reference)), patch, wanted),
+                  "a difference leads to the value");
+  }
 }
 
 } // namespace
@@ -45,7 +48,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   harness::trial trial;
   trial.run(*type, first, second, k, onward);
   fuzz::require(trial.broken.empty(), trial.broken.c_str());
-  if (k % 8 == 1) { // not for each: a reader takes twice as long as all the rest
+  if (k > 37) { // not for each: a reader takes twice as long as all the rest
     check_json(*type, harness::any_sample(*type, first), harness::any_sample(*type, second));
   }
   return 0;

@@ -10,6 +10,7 @@ namespace zel::ravix {
 
 // Two fields that share their storage, told apart by Tag:
 //
+//   Tag::member, Tag::name                the number that tells them apart
 //   Tag::is_first(r), Tag::is_second(r)   which of the two the record has at present; maybe neither
 //   Tag::log_rejected(r, site)            says that a record of neither cannot be copied
 //
@@ -32,12 +33,10 @@ template <class Tag, class First, class Second> struct tagged : any_kind<void> {
   // A number for what the record has at present, 0 for neither.
   static int which(const R &r) { return Tag::is_first(r) ? 1 : Tag::is_second(r) ? 2 : 0; }
 
-  template <class Visit> static void members(const R &r, Visit visit) { First::members(r, visit); }
+  template <class Record, class Visit> static void members(Record &r, Visit visit) { First::members(r, visit); }
   void clear(R &r, call_site site) const {
     use(r, [&](const auto &field) { field.clear(r, site); });
-    First::members(r, [](const auto &storage) {
-      std::memset(const_cast<void *>(static_cast<const void *>(&storage)), 0, sizeof storage);
-    });
+    members(r, [](auto &storage) { storage = {}; });
   }
   bool accepts(const R &src) const {
     bool accepted = false;
@@ -136,6 +135,8 @@ RAVIX_FIELD_LIST(ravix_cfg_auto_update_feature_t) {
 
 struct rule_tag {
   using R = ravix_cfg_auto_update_rule_t;
+  static constexpr auto member = &R::type;
+  static constexpr const char *name = "type";
   static bool is_first(const R &rule) { return rule.type == RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE; }
   static bool is_second(const R &rule) { return rule.type == RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE; }
   static void log_rejected(const R &rule, call_site site);
@@ -270,6 +271,8 @@ RAVIX_FIELD_LIST(ravix_cfg_role_config_sta_t) {
 
 struct role_tag {
   using R = ravix_cfg_role_static_t;
+  static constexpr auto member = &R::op_mode;
+  static constexpr const char *name = "op_mode";
   static bool is_first(const R &role) {
     switch (role.op_mode) {
     case RAVIX_ROLE_OPMODE_AP_HOME:

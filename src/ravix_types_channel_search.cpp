@@ -115,8 +115,7 @@ int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint
   }
   for (; width != RAVIX_CHANNEL_WIDTH_INVALID; width = ravix_channel_width_lower(width)) {
     const bool two_sided = has_pairs(primary_freq, width) || has_overlapping_blocks(primary_freq, width);
-    bool side = ext_high;
-    for (int tries = two_sided ? 2 : 1; tries > 0; --tries, side = !side) {
+    for (const bool side : {ext_high, !ext_high}) {
       const int made = ravix_create_channel_info_auto(primary_freq, width, side, 0, channel_info);
       if (made < 0) {
         log_error(here, "Failed to create max clear channel info.");
@@ -132,7 +131,7 @@ int ravix_get_max_clear_channel_info(const ravix_channel_list_t *chan_list, uint
       if (clear) {
         return 0;
       }
-      if (made == 1) { // that was the other side already
+      if (!two_sided || made == 1) { // there is no other side, or that was it already
         break;
       }
     }

@@ -37,6 +37,11 @@ RAVIX_SHARED bool are_given(const void *first, const char *first_name, const voi
   return false;
 }
 
+// Negative, 0 or positive, as all comparisons are.
+template <class T> constexpr int order_of(T a, T b) {
+  return (a > b) - (a < b);
+}
+
 namespace frame {
 
 // Tags of the frame's own allocations and the lines of its messages. Log filters and leak reports of the device know

@@ -26,6 +26,12 @@ template <class E> struct element {
   static constexpr bool is_flat = true;
   // Elements own memory or hold secrets, so that they are cleared before their array is released.
   static constexpr bool clear_before_release = false;
+
+  static int copy(const E *src, E *dest) {
+    std::memcpy(dest, src, sizeof(E));
+    return success;
+  }
+  static int compare(const E *a, const E *b) { return std::memcmp(a, b, sizeof(E)); }
 };
 
 template <class T>
@@ -204,17 +210,13 @@ template <class T> RAVIX_SHARED int generic_table_add_entry(T *table, entry_of<T
   table->data = grown;
   table->count = count;
   E *slot = &grown[count];
-  if constexpr (table_of_bytes<T>) {
-    std::memcpy(slot, entry, sizeof(E));
-  } else {
-    if constexpr (!element<E>::is_flat) {
-      std::memset(static_cast<void *>(slot), 0, sizeof(E));
-    }
-    if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
-      log_error({path, __func__}, "Copy error!");
-      std::memset(static_cast<void *>(slot), 0, sizeof(E));
-      return code;
-    }
+  if constexpr (!element<E>::is_flat) {
+    std::memset(static_cast<void *>(slot), 0, sizeof(E));
+  }
+  if (const int code = element<E>::copy(entry, slot); code != success) [[unlikely]] {
+    log_error({path, __func__}, "Copy error!");
+    std::memset(static_cast<void *>(slot), 0, sizeof(E));
+    return code;
   }
   table->count = count + 1;
   return success;
@@ -227,11 +229,7 @@ template <class T> bool generic_table_contains_entry(const T *table, entry_of<T>
   using E = element_of<T>;
   const std::uint32_t count = table::elements(*table);
   for (std::uint32_t i = 0; i < count; ++i) {
-    if constexpr (table_of_bytes<T>) {
-      if (std::memcmp(&table->data[i], entry, sizeof(E)) == 0) {
-        return true;
-      }
-    } else if (element<E>::compare(&table->data[i], entry) == 0) {
+    if (element<E>::compare(&table->data[i], entry) == 0) {
       return true;
     }
   }
@@ -244,7 +242,7 @@ template <class T> int generic_table_compare(const T *a, const T *b) {
     return (a != nullptr) - (b != nullptr);
   }
   if (a->count != b->count) {
-    return a->count < b->count ? -1 : 1;
+    return order_of(a->count, b->count);
   }
   if (a->count == 0 || a->data == nullptr || b->data == nullptr) {
     return (table::elements(*a) != 0) - (table::elements(*b) != 0);

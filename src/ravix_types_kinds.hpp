@@ -8,8 +8,7 @@
 //   clear(r, site)                releases what the field owns, gives it its empty value
 //   accepts(src)                  tells whether the value may be copied, memory permitting; `refusal` is the message
 //                                 of a field that refuses for itself
-//   copy(src, dest, site)         copies into the cleared field; a failure names the message and the result. A flat
-//   field
+//   copy(src, dest, site)         copies into the cleared field; a failure names the message and the result. A field
 //                                 that cannot fail has copy_members(src, dest) instead
 //   compare(a, b)                 negative, 0 or positive
 //   print(out, r)                 the value's text, on one line
@@ -51,7 +50,7 @@ template <class Meaning, auto... Members> struct any_kind {
   const char *name;
   std::size_t offset;
 
-  template <class R, class Visit> static void members(const R &r, Visit visit) { (visit(r.*Members), ...); }
+  template <class R, class Visit> static void members(R &r, Visit visit) { (visit(r.*Members), ...); }
   template <class R> static bool accepts(const R & /*src*/) { return true; }
 };
 
@@ -99,7 +98,7 @@ template <auto Member, class Meaning> struct array : flat_kind<Meaning, Member> 
 
   static int compare(const R &a, const R &b) {
     const int order = std::memcmp(a.*Member, b.*Member, size);
-    return Meaning::kind == value_kind::octets ? order : (order > 0) - (order < 0);
+    return Meaning::kind == value_kind::octets ? order : order_of(order, 0);
   }
   template <class Out> static void print(Out &out, const R &r) {
     if constexpr (Meaning::kind == value_kind::octets) {
@@ -132,7 +131,7 @@ template <auto Length, auto Octets> struct counted_octets : flat_kind<void, Leng
   }
   static int compare(const R &a, const R &b) {
     if (a.*Length != b.*Length) {
-      return a.*Length < b.*Length ? -1 : 1;
+      return order_of(a.*Length, b.*Length);
     }
     return std::memcmp(a.*Octets, b.*Octets, std::min<std::size_t>(a.*Length, size));
   }
@@ -251,7 +250,7 @@ template <auto Length, auto Octets> struct owned_octets : owning_kind<Length, Oc
   // counting as changed.
   static int compare(const R &a, const R &b) {
     if (a.*Length != b.*Length) {
-      return a.*Length < b.*Length ? -1 : 1;
+      return order_of(a.*Length, b.*Length);
     }
     if (a.*Octets == nullptr || b.*Octets == nullptr) {
       return (a.*Octets != nullptr) - (b.*Octets != nullptr);

@@ -47,6 +47,12 @@ template <auto Formatter> struct shown_by : number {
   template <class Out, class T> static void print(Out &out, T value) { out.text(Formatter(value)); }
 };
 
+// The same of a number whose empty value says "not known" or "never".
+template <auto Formatter, auto Empty> struct known_or_empty : shown_by<Formatter> {
+  static constexpr auto empty = Empty;
+  static constexpr bool empty_is_none = true;
+};
+
 struct seconds : number {
   static constexpr const char *unit = "s";
   template <class Out, class T> static void print(Out &out, T value) {
@@ -55,14 +61,12 @@ struct seconds : number {
   }
 };
 
-struct frequency : shown_by<ravix_str_frequency> {
-  static constexpr bool empty_is_none = true;
+struct frequency : known_or_empty<ravix_str_frequency, RAVIX_FREQUENCY_INVALID> {
   static constexpr const char *unit = "kHz";
 };
 
 // A frequency of a channel, shown with the channel's number.
-struct channel_frequency : shown_by<ravix_str_wifi_freq> {
-  static constexpr bool empty_is_none = true;
+struct channel_frequency : known_or_empty<ravix_str_wifi_freq, RAVIX_FREQUENCY_INVALID> {
   static constexpr const char *unit = "kHz";
 };
 
@@ -70,15 +74,11 @@ struct bitrate : shown_by<ravix_str_bitrate> {
   static constexpr const char *unit = "kbit/s";
 };
 
-struct power : shown_by<ravix_str_power> {
-  static constexpr int empty = RAVIX_POWER_INVALID;
-  static constexpr bool empty_is_none = true;
+struct power : known_or_empty<ravix_str_power, RAVIX_POWER_INVALID> {
   static constexpr const char *unit = "dBm";
 };
 
-struct percentage : shown_by<ravix_str_percentage> {
-  static constexpr int empty = RAVIX_MEASURE_INVALID;
-  static constexpr bool empty_is_none = true;
+struct percentage : known_or_empty<ravix_str_percentage, RAVIX_MEASURE_INVALID> {
   static constexpr const char *unit = "%";
 };
 
@@ -101,13 +101,9 @@ struct measure : number {
 };
 
 // Codes of IEEE 802.11, 9.4.2.37 to 9.4.2.40, shown as such.
-template <auto Formatter> struct code : shown_by<Formatter> {
-  static constexpr int empty = RAVIX_MEASURE_INVALID;
-  static constexpr bool empty_is_none = true;
-};
-struct rcpi : code<ravix_str_rcpi> {};
-struct rsni : code<ravix_str_rsni> {};
-struct anpi : code<ravix_str_anpi> {};
+struct rcpi : known_or_empty<ravix_str_rcpi, RAVIX_MEASURE_INVALID> {};
+struct rsni : known_or_empty<ravix_str_rsni, RAVIX_MEASURE_INVALID> {};
+struct anpi : known_or_empty<ravix_str_anpi, RAVIX_MEASURE_INVALID> {};
 
 // A share of the air time.
 struct airtime : number {
@@ -120,15 +116,10 @@ struct client_limit : number {
   static constexpr std::uint32_t empty = RAVIX_MAX_CLIENTS_UNLIMITED;
 };
 
-struct index : shown_by<ravix_str_index> {
-  static constexpr int empty = RAVIX_INDEX_INVALID;
-  static constexpr bool empty_is_none = true;
-};
+struct index : known_or_empty<ravix_str_index, RAVIX_INDEX_INVALID> {};
 
-struct timestamp : shown_by<ravix_str_timestamp> {
+struct timestamp : known_or_empty<ravix_str_timestamp, std::int64_t{RAVIX_TIMESTAMP_INVALID}> {
   static constexpr value_kind kind = value_kind::timestamp;
-  static constexpr std::int64_t empty = RAVIX_TIMESTAMP_INVALID;
-  static constexpr bool empty_is_none = true;
   static constexpr const char *unit = "ms";
 };
 

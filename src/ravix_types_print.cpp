@@ -3,23 +3,15 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <span>
 
 namespace zel::ravix {
 
 namespace {
 
-template <std::size_t Size, class... Arguments> struct digits {
-  char text[Size];
-  std::size_t size;
-
-  explicit digits(Arguments... arguments) { // NOLINT(cppcoreguidelines-pro-type-member-init): to_chars fills it
-    size = static_cast<std::size_t>(std::to_chars(text, text + Size, arguments...).ptr - text);
-  }
-  std::string_view view() const { return {text, size}; }
-};
-
-template <std::size_t Size, class... Arguments> digits<Size, Arguments...> digits_of(Arguments... arguments) {
-  return digits<Size, Arguments...>(arguments...);
+// The digits of a number, written into `place`.
+std::string_view digits_of(std::span<char> place, auto... number) {
+  return {place.data(), std::to_chars(place.data(), place.data() + place.size(), number...).ptr};
 }
 
 } // namespace
@@ -62,12 +54,14 @@ void printer::right(std::string_view piece, std::size_t width) {
   text(piece);
 }
 
-void printer::signed_decimal(std::int64_t number, std::size_t width) {
-  right(digits_of<24>(number).view(), width);
+void printer::widest_decimal(std::int64_t number, std::size_t width) {
+  char place[24];
+  right(digits_of(place, number), width);
 }
 
-void printer::unsigned_decimal(std::uint64_t number, std::size_t width) {
-  right(digits_of<24>(number).view(), width);
+void printer::widest_decimal(std::uint64_t number, std::size_t width) {
+  char place[24];
+  right(digits_of(place, number), width);
 }
 
 void printer::decimal(const void *pointer) {
@@ -80,14 +74,16 @@ void printer::decimal(const void *pointer) {
 }
 
 void printer::fixed(float number, int decimals, std::size_t width) {
-  right(digits_of<64>(number, std::chars_format::fixed, decimals).view(), width);
+  char place[64];
+  right(digits_of(place, number, std::chars_format::fixed, decimals), width);
 }
 
 void printer::hex(std::uintptr_t number, std::size_t width) {
-  const auto piece = digits_of<2 * sizeof number>(number, 16);
+  char place[2 * sizeof number];
+  const std::string_view digits = digits_of(place, number, 16);
   static constexpr std::string_view zeros = "00000000";
-  text(zeros.substr(0, width - std::min(width, piece.size)));
-  text(piece.view());
+  text(zeros.substr(0, width - std::min(width, digits.size())));
+  text(digits);
 }
 
 void printer::quoted(const char *piece) {

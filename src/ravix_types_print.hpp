@@ -77,11 +77,7 @@ public:
   void right(std::string_view piece, std::size_t width);
 
   template <std::integral T> void decimal(T number, std::size_t width = 0) {
-    if constexpr (std::signed_integral<T>) {
-      signed_decimal(number, width);
-    } else {
-      unsigned_decimal(number, width);
-    }
+    widest_decimal(std::conditional_t<std::signed_integral<T>, std::int64_t, std::uint64_t>{number}, width);
   }
   // An address of somebody else's object.
   void decimal(const void *pointer);
@@ -103,29 +99,19 @@ public:
 
   // A table whose entries are headed "[WORD i]:" and printed by their field lines.
   template <table_record T> void listed(const T &table) {
-    const std::uint32_t count = table::elements(table);
-    if (count == 0) {
-      text(no_entries);
-    }
-    for (std::uint32_t i = 0; i < count; ++i) {
-      text(i == 0 ? "" : "\n");
+    each(table, "\n", [&](std::uint32_t i) {
       header(heading<element_of<T>>, i);
       lines(table.data[i]);
-    }
+    });
   }
 
   // A table of one line per entry under a header line; print_entry(entry) writes an entry's columns.
   template <table_record T> void columns(std::string_view header_line, const T &table, auto print_entry) {
     text(header_line);
-    const std::uint32_t count = table::elements(table);
-    if (count == 0) {
-      text(no_entries);
-    }
-    for (std::uint32_t i = 0; i < count; ++i) {
-      text(i == 0 ? "" : "\n");
-      index(i, count);
+    each(table, "\n", [&](std::uint32_t i) {
+      index(i, table.count);
       print_entry(table.data[i]);
-    }
+    });
   }
 
   // ---- difference prints: nothing for a value that equals its reference
@@ -173,13 +159,24 @@ private:
   // Tables of short texts share one line up to this number.
   static constexpr std::uint32_t max_on_one_line = 5;
 
-  void signed_decimal(std::int64_t number, std::size_t width);
-  void unsigned_decimal(std::uint64_t number, std::size_t width);
+  void widest_decimal(std::int64_t number, std::size_t width);
+  void widest_decimal(std::uint64_t number, std::size_t width);
   // Lower-case digits, at least as many as `width`.
   void hex(std::uintptr_t number, std::size_t width);
   void quoted(const char *piece);
   // Indentation and, unless it is null, the name and what follows it.
   void label(const char *name, const char *after, unsigned indent);
+  // Calls print_entry(i) for each entry.
+  template <table_record T> void each(const T &table, const char *separator, auto print_entry) {
+    const std::uint32_t count = table::elements(table);
+    if (count == 0) {
+      text(no_entries);
+    }
+    for (std::uint32_t i = 0; i < count; ++i) {
+      text(i == 0 ? "" : separator);
+      print_entry(i);
+    }
+  }
   // "[i]: ", aligned for a table of `count` entries.
   void index(std::uint32_t i, std::uint32_t count);
   // "[WORD i]:" and a line break.
@@ -219,17 +216,13 @@ private:
       text("-- too many entries --");
     } else if (std::integral<element_of<T>> && count <= max_on_one_line) {
       blanks(indent);
-      for (std::uint32_t i = 0; i < count; ++i) {
-        text(i == 0 ? "" : ", ");
-        entry(table, i);
-      }
+      each(table, ", ", [&](std::uint32_t i) { entry(table, i); });
     } else {
-      for (std::uint32_t i = 0; i < count; ++i) {
-        text(i == 0 ? "" : "\n");
+      each(table, "\n", [&](std::uint32_t i) {
         blanks(indent);
         index(i, count);
         entry(table, i);
-      }
+      });
     }
   }
 

@@ -15,8 +15,6 @@ template <class Print> std::ostream &print(std::ostream &os, Print what) {
   return os;
 }
 
-// ---- records with layouts of their own, found by zel::ravix::has_layout
-
 // ---- scan listing
 
 void show(printer &out, const ravix_scan_entry_t &entry, bool hide_ssid = false) {
@@ -68,21 +66,17 @@ void show(printer &out, const ravix_radio_airtime_entry_t &entry) {
   }
 }
 
-// A table under a header line, its entries as above.
-template <class T> void show_table(printer &out, std::string_view header, const T &table) {
-  out.columns(header, table, [&](const auto &entry) { show(out, entry); });
-}
-void show(printer &out, const ravix_noisefloor_table_t &table) {
-  show_table(out, "[FREQUENCY|NOISEFLOOR|LOAD]\n", table);
-}
-void show(printer &out, const ravix_channel_list_t &list) {
-  show_table(out, "[FREQUENCY|MAX_POWER|MAX_REG_POWER|CAPS|STATE|USER_FLAGS]\n", list);
-}
-void show(printer &out, const ravix_radio_load_table_t &table) {
-  show_table(out, "[GLOBAL_USAGE|OWN_TX_USAGE]\n", table);
-}
-void show(printer &out, const ravix_radio_airtime_table_t &table) {
-  show_table(out, "[RXC|RXF|TXF|NOISEFLOOR]\n", table);
+// Their tables, each under its line of headings.
+template <class T> constexpr const char *headings = nullptr;
+template <> constexpr const char *headings<ravix_noisefloor_table_t> = "[FREQUENCY|NOISEFLOOR|LOAD]\n";
+template <>
+constexpr const char *headings<ravix_channel_list_t> = "[FREQUENCY|MAX_POWER|MAX_REG_POWER|CAPS|STATE|USER_FLAGS]\n";
+template <> constexpr const char *headings<ravix_radio_load_table_t> = "[GLOBAL_USAGE|OWN_TX_USAGE]\n";
+template <> constexpr const char *headings<ravix_radio_airtime_table_t> = "[RXC|RXF|TXF|NOISEFLOOR]\n";
+
+template <class T>
+requires(headings<T> != nullptr) void show(printer &out, const T &table) {
+  out.columns(headings<T>, table, [&](const auto &entry) { show(out, entry); });
 }
 
 void show(printer &out, const ravix_scan_results_t &results, bool hide_ssid = false) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <charconv>
 #include <chrono>
 #include <climits>
 #include <cstdarg>
@@ -152,16 +153,6 @@ char *put(char *out, std::uint8_t octet) {
   const char *text = &octet_digits[std::size_t{4} * octet];
   std::memcpy(out, text, 4);
   return out + text[3];
-}
-
-// The same of the last octet of a text: two characters, and the last two of three.
-char *put_last_number(char *out, std::uint8_t octet) {
-  const char *text = &octet_digits[std::size_t{4} * octet];
-  const std::size_t length = static_cast<unsigned char>(text[3]);
-  const std::size_t third = length / 3;
-  std::memcpy(out, text, 2);
-  std::memcpy(out + third, text + third, 2);
-  return out + length;
 }
 
 constexpr char upper_hex[] = "0123456789ABCDEF";
@@ -384,7 +375,7 @@ const char *ravix_str_ip_addr(const ravix_ip_addr_t *value) {
         out = put(out, octet[i]);
         *out++ = '.';
       }
-      return put_last_number(out, octet[3]);
+      return put(out, uint32_t{octet[3]});
     });
   case RAVIX_IP_VERSION_6:
     return build_text<8 * digits>([&](char *out) {
@@ -505,14 +496,9 @@ constexpr char upper(char character) {
 
 // The value of a name in any letter case.
 std::optional<std::int64_t> find_value(const value_list &names, std::string_view name) {
-  std::array<char, name_block> wanted;
-  if (name.size() > wanted.size()) {
-    return std::nullopt;
-  }
-  std::transform(name.begin(), name.end(), wanted.begin(), upper);
   for (std::size_t i = 0; i < names.count; ++i) {
-    if (names.length(i) == name.size() && names.name(i)[0] == wanted[0] &&
-        std::memcmp(names.name(i), wanted.data(), name.size()) == 0) {
+    if (names.length(i) == name.size() &&
+        std::equal(name.begin(), name.end(), names.name(i), [](char given, char own) { return upper(given) == own; })) {
       return names.values[i];
     }
   }
@@ -530,19 +516,12 @@ struct accepted_values {
 
 std::optional<std::int64_t> parse(std::string_view text, const accepted_values &accepted) {
   const bool has_names = accepted.names.count != 0;
-  const bool negative = !has_names && text.front() == '-';
-  const std::string_view number = text.substr(negative ? 1 : 0);
+  const std::string_view number = text.substr(!has_names && text.front() == '-' ? 1 : 0);
   if (number.empty() || !std::all_of(number.begin(), number.end(), is_digit)) {
     return has_names ? find_value(accepted.names, text) : std::nullopt;
   }
-  constexpr std::int64_t too_large = std::int64_t{1} << 33;
-  std::int64_t value = 0;
-  for (const char digit : number) {
-    value = std::min(value * 10 + (digit - '0'), too_large);
-  }
-  if (negative) {
-    value = -value;
-  }
+  std::int64_t value = INT64_MAX; // beyond what any parser takes, and left when the number is larger still
+  (void)std::from_chars(text.data(), text.data() + text.size(), value);
   if (text.size() == 1 && accepted.any_digit) {
     return value;
   }

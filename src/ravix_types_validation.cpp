@@ -1,6 +1,7 @@
 #include "ravix_types_validation.h"
 
 #include "ravix_types_log.hpp"
+#include "ravix_types_names.hpp"
 #include "ravix_types_radio.hpp"
 #include "ravix_types_str_convert.h"
 #include "ravix_types_util.h"
@@ -23,31 +24,13 @@ namespace {
 
 constexpr const char *here = "src/ravix_types_validation";
 
-// The rules, by the code of their violation, and the names of the violations in the same order.
-enum rule : uint8_t {
-  invalid_ptr,
-  invalid_freq,
-  radio_mismatch,
-  double_frequency,
-  invalid_order,
-  invalid_power,
-  invalid_dfs,
-  no_ht20,
-  state_flag_mismatch,
-  no_primary_flag,
-  active_on_not_cleared,
-  primary_without_active,
-  active_gap,
-  many_primary_flags,
-  invalid_active,
-  invalid_channel_info,
-};
-constexpr char rule_names[][23] = {
-    "INVALID_PTR",         "INVALID_FREQ",       "RADIO_MISMATCH",        "DOUBLE_FREQUENCY",
-    "INVALID_ORDER",       "INVALID_POWER",      "INVALID_DFS",           "NO_HT20",
-    "STATE_FLAG_MISMATCH", "NO_PRIMARY_FLAG",    "ACTIVE_ON_NOT_CLEARED", "PRIMARY_WITHOUT_ACTIVE",
-    "ACTIVE_GAP",          "MANY_PRIMARY_FLAGS", "INVALID_ACTIVE",        "INVALID_CHANNEL_INFO",
-};
+// The rules, by the code of their violation, and the names of the violations.
+#define RAVIX_RULES(...)                                                                                               \
+  enum rule : uint8_t { __VA_ARGS__ };                                                                                 \
+  constexpr auto rule_names = zel::ravix::make_name_table<"", #__VA_ARGS__, rule>({__VA_ARGS__})
+RAVIX_RULES(INVALID_PTR, INVALID_FREQ, RADIO_MISMATCH, DOUBLE_FREQUENCY, INVALID_ORDER, INVALID_POWER, INVALID_DFS,
+            NO_HT20, STATE_FLAG_MISMATCH, NO_PRIMARY_FLAG, ACTIVE_ON_NOT_CLEARED, PRIMARY_WITHOUT_ACTIVE, ACTIVE_GAP,
+            MANY_PRIMARY_FLAGS, INVALID_ACTIVE, INVALID_CHANNEL_INFO);
 
 constexpr uint32_t active = RAVIX_CHANNEL_STATE_ACTIVE;
 constexpr uint32_t pri_chan = RAVIX_CHANNEL_STATE_PRI_CHAN;
@@ -125,11 +108,9 @@ class channel_list_check {
 public:
   channel_list_check(call_site site, std::span<const ravix_channel_entry_t> entries)
       : site_(site), entries_(entries), band_(ravix_frequency_to_radio_band(entries.front().frequency)),
-        has_primary_(std::ranges::any_of(entries, [](const auto &entry) { return (entry.state & pri_chan) != 0; })) {
-    for (unique_from_ = entries.size() - 1;
-         unique_from_ != 0 && entries[unique_from_ - 1].frequency < entries[unique_from_].frequency; --unique_from_) {
-    }
-  }
+        has_primary_(std::ranges::any_of(entries, [](const auto &entry) { return (entry.state & pri_chan) != 0; })),
+        ascends_(std::ranges::adjacent_find(entries, std::ranges::greater_equal{}, &ravix_channel_entry_t::frequency) ==
+                 entries.end()) {}
 
   // The set of violated rules.
   uint32_t run() {
@@ -165,17 +146,17 @@ private:
   void check_frequency(std::size_t index) {
     const uint32_t frequency = entries_[index].frequency;
     if (!ravix_frequency_is_primary(frequency)) {
-      violated(invalid_freq, {ravix_str_wifi_freq(frequency), " is not a valid primary frequency!"});
+      violated(INVALID_FREQ, {ravix_str_wifi_freq(frequency), " is not a valid primary frequency!"});
     }
     if (ravix_frequency_to_radio_band(frequency) != band_) {
-      violated_at(frequency, radio_mismatch, "radio band is different to the radio band of the first frequency ",
+      violated_at(frequency, RADIO_MISMATCH, "radio band is different to the radio band of the first frequency ",
                   ravix_str_wifi_freq(entries_.front().frequency), "!");
     }
-    if (index < unique_from_) {
+    if (!ascends_) {
       check_duplicates(index);
     }
     if (index + 1 < entries_.size() && frequency > entries_[index + 1].frequency) {
-      violated_at(frequency, invalid_order, "ascending order is violated, the following frequency ",
+      violated_at(frequency, INVALID_ORDER, "ascending order is violated, the following frequency ",
                   ravix_str_wifi_freq(entries_[index + 1].frequency), " is smaller!");
     }
   }
@@ -184,7 +165,7 @@ private:
     const uint32_t frequency = entries_[index].frequency;
     for (const ravix_channel_entry_t &later : entries_.subspan(index + 1)) {
       if (later.frequency == frequency) {
-        violated(double_frequency,
+        violated(DOUBLE_FREQUENCY,
                  {"There are two entries with frequency ", ravix_str_wifi_freq(frequency), " in the list!"});
       }
     }
@@ -192,21 +173,21 @@ private:
 
   void check_power(const ravix_channel_entry_t &entry) {
     if (entry.max_power != RAVIX_POWER_INVALID && (entry.max_power < 0 || entry.max_power > highest_power)) {
-      violated_at(entry.frequency, invalid_power, "maxregpower (", decimal(entry.max_power), ") is out of range!");
+      violated_at(entry.frequency, INVALID_POWER, "maxregpower (", decimal(entry.max_power), ") is out of range!");
     }
   }
 
   void check_capabilities_and_state(const ravix_channel_entry_t &entry) {
     const uint32_t dfs = entry.capabilities & dfs_capabilities;
     if (dfs != 0 && ravix_frequency_to_radio_band(entry.frequency) != RAVIX_RADIO_BAND_5GHZ) {
-      violated_at(entry.frequency, invalid_dfs, "a DFS flag is set for a non 5GHz frequency!");
+      violated_at(entry.frequency, INVALID_DFS, "a DFS flag is set for a non 5GHz frequency!");
       return; // a mark that makes no sense would only bring lines that do not either
     }
     if (dfs == dfs_capabilities) {
-      violated_at(entry.frequency, invalid_dfs, "DFS and DFS_WEATHER are both set!");
+      violated_at(entry.frequency, INVALID_DFS, "DFS and DFS_WEATHER are both set!");
     }
     if ((entry.capabilities & RAVIX_CHANNEL_CAP_HT20) == 0) {
-      violated_at(entry.frequency, no_ht20, "HT20 is not set!");
+      violated_at(entry.frequency, NO_HT20, "HT20 is not set!");
     }
     for (const state_rule &row : state_rules) {
       if ((entry.state & row.flag) != 0) {
@@ -217,22 +198,22 @@ private:
 
   void check_state_flag(const ravix_channel_entry_t &entry, const state_rule &row, bool dfs) {
     if (row.dfs_only && !dfs) {
-      violated_at(entry.frequency, state_flag_mismatch, ravix_str_channel_state(row.flag),
+      violated_at(entry.frequency, STATE_FLAG_MISMATCH, ravix_str_channel_state(row.flag),
                   " is set on non DFS channel!");
     }
     const uint32_t companions = entry.state & row.forbidden;
     if (companions != 0) {
-      violated_at(entry.frequency, state_flag_mismatch, ravix_str_channel_state(row.flag), " is set alongside of ",
+      violated_at(entry.frequency, STATE_FLAG_MISMATCH, ravix_str_channel_state(row.flag), " is set alongside of ",
                   ravix_str_channel_state(companions), "!");
     }
     if (row.flag == active && !has_primary_) {
-      violated_at(entry.frequency, no_primary_flag, "ACTIVE is set and PRIMARY is set nowhere!");
+      violated_at(entry.frequency, NO_PRIMARY_FLAG, "ACTIVE is set and PRIMARY is set nowhere!");
     }
     if (row.flag == active && dfs && (entry.state & dfs_clear) == 0) {
-      violated_at(entry.frequency, active_on_not_cleared, "DFS_CLEAR not set on ACTIVE DFS channel!");
+      violated_at(entry.frequency, ACTIVE_ON_NOT_CLEARED, "DFS_CLEAR not set on ACTIVE DFS channel!");
     }
     if (row.flag == pri_chan && (entry.state & active) == 0) {
-      violated_at(entry.frequency, primary_without_active, "PRIMARY is set without ACTIVE!");
+      violated_at(entry.frequency, PRIMARY_WITHOUT_ACTIVE, "PRIMARY is set without ACTIVE!");
     }
   }
 
@@ -243,7 +224,7 @@ private:
       lowest_ = lowest_ == 0 ? entry.frequency : lowest_;
       highest_ = std::max(highest_, entry.frequency);
       if (gap_ != 0) {
-        violated_at(entry.frequency, active_gap, "a gap of channels marked as ACTIVE is detected!");
+        violated_at(entry.frequency, ACTIVE_GAP, "a gap of channels marked as ACTIVE is detected!");
         gap_ = 0;
       }
     } else if (highest_ != 0 && gap_ == 0) {
@@ -259,7 +240,7 @@ private:
       if (primary_ == 0) {
         primary_ = entry.frequency;
       } else {
-        violated_at(entry.frequency, many_primary_flags, "PRIMARY is already set on another channel!");
+        violated_at(entry.frequency, MANY_PRIMARY_FLAGS, "PRIMARY is already set on another channel!");
       }
     }
   }
@@ -270,13 +251,13 @@ private:
     }
     if (primary_ == channel_14) {
       if (count_ >= 2) {
-        violated(invalid_active, {"Channel 14 is set as primary and more than one channel is set as ACTIVE!"});
+        violated(INVALID_ACTIVE, {"Channel 14 is set as primary and more than one channel is set as ACTIVE!"});
       }
       return;
     }
     if (band_ == RAVIX_RADIO_BAND_2GHZ) {
       if (std::ranges::find(active_counts_2ghz, count_) == std::end(active_counts_2ghz)) {
-        violated(invalid_active, {decimal(count_), " is not an allowed number of active channels!"});
+        violated(INVALID_ACTIVE, {decimal(count_), " is not an allowed number of active channels!"});
         return;
       }
       add_overhang();
@@ -293,12 +274,12 @@ private:
       }
       if (row.below) {
         if (lowest_ != entries_.front().frequency) {
-          violated(invalid_active, {"Frequency below channel list is used, but lowest channel is not active!"});
+          violated(INVALID_ACTIVE, {"Frequency below channel list is used, but lowest channel is not active!"});
         }
         lowest_ -= row.missing;
       } else {
         if (highest_ != entries_.back().frequency) {
-          violated(invalid_active, {"Frequency above channel list is used, but highest channel is not active!"});
+          violated(INVALID_ACTIVE, {"Frequency above channel list is used, but highest channel is not active!"});
         }
         highest_ += row.missing;
       }
@@ -312,17 +293,17 @@ private:
     const uint16_t width =
         ravix_frequency_to_channel_width(band_ == RAVIX_RADIO_BAND_2GHZ ? extent : extent + width_20_khz);
     if (width == RAVIX_CHANNEL_WIDTH_INVALID) {
-      violated(invalid_active, {"Cannot determine channel width from lowest ", decimal(lowest_), " kHz and highest ",
+      violated(INVALID_ACTIVE, {"Cannot determine channel width from lowest ", decimal(lowest_), " kHz and highest ",
                                 decimal(highest_), " kHz!"});
       return;
     }
     const ravix_channel_info_t channel = {primary_, lowest_ + extent / 2, width, puncture_map_};
     if (!ravix_channel_info_is_valid(&channel)) {
-      violated(invalid_channel_info, {"Created channel info from list is invalid: ", ravix_str_channel_info(&channel)});
+      violated(INVALID_CHANNEL_INFO, {"Created channel info from list is invalid: ", ravix_str_channel_info(&channel)});
     }
     const auto entry = std::ranges::find(entries_, primary_, &ravix_channel_entry_t::frequency);
     if (width > ravix_channel_capabilities_to_channel_width(entry->capabilities)) {
-      violated(invalid_active, {"Bandwidth ", ravix_str_channel_width(width), " is not possible on frequency ",
+      violated(INVALID_ACTIVE, {"Bandwidth ", ravix_str_channel_width(width), " is not possible on frequency ",
                                 ravix_str_wifi_freq(primary_), "!"});
     }
   }
@@ -331,7 +312,7 @@ private:
   const std::span<const ravix_channel_entry_t> entries_; // at least one
   const uint8_t band_;                                   // of the first entry
   const bool has_primary_;
-  std::size_t unique_from_ = 0; // from here on frequencies ascend strictly: none of them occurs again
+  const bool ascends_; // so that no frequency can occur twice
 
   uint32_t violations_ = 0;
 
@@ -346,9 +327,10 @@ private:
 
 void list_names(uint32_t violations, ravix_string_table_t &errors) {
   ravix_types_string_table_clear(&errors);
-  for (std::size_t code = 0; code < std::size(rule_names); ++code) {
+  const zel::ravix::name_list<rule> names = rule_names;
+  for (std::size_t code = 0; code < names.count; ++code) {
     if ((violations >> code & 1) != 0) {
-      const char *const name = rule_names[code];
+      const char *const name = names.name(code);
       ravix_types_string_table_add_entry(&errors, &name);
     }
   }
@@ -360,7 +342,7 @@ bool ravix_validate_channel_list(const ravix_channel_list_t *list, ravix_string_
   uint32_t violations = 0;
   if (list == nullptr || (list->count != 0 && list->data == nullptr)) {
     log_invalid_pointer(here, "obj");
-    violations = 1U << invalid_ptr;
+    violations = 1U << INVALID_PTR;
   } else if (list->count == 0) {
     return true; // a caller's table stays as it is: there was nothing to judge
   } else {

@@ -19,7 +19,7 @@ using namespace zel::ravix;
 struct collector {
   std::string all;
   void text(std::string_view piece) { all += piece; }
-  template <class T> void decimal(T number) { all += std::to_string(number); }
+  void decimal(auto number) { all += std::to_string(number); }
 };
 template <class Meaning> std::string shown(auto value) {
   collector out;
@@ -32,7 +32,7 @@ template <class Meaning, class T> std::string pattern(T sample) {
   std::string text = shown<Meaning>(sample);
   const std::string number = std::to_string(sample);
   const auto at = text.find(number);
-  return at == std::string::npos ? text : text.replace(at, number.size(), "{}");
+  return in_quotes(at == std::string::npos ? text : text.replace(at, number.size(), "{}"));
 }
 
 // The values of type T that have texts of their own.
@@ -40,7 +40,7 @@ template <class Meaning, class T> std::string names_of() {
   json all("{}");
   const auto add = [&](auto value) {
     const auto stored = static_cast<T>(value);
-    all.add(std::to_string(static_cast<std::int64_t>(stored)), in_quotes(shown<Meaning>(stored)));
+    all.add(std::to_string(stored), in_quotes(shown<Meaning>(stored)));
   };
   if constexpr (requires { Meaning::names; }) {
     for (const auto value : Meaning::names.values) {
@@ -66,70 +66,53 @@ template <class Meaning, class T> std::string names_of() {
 template <class Meaning, class T> std::string facts_of() {
   json facts("{}");
   if constexpr (Meaning::kind == value_kind::flags) {
-    json bits("[]");
+    json flags("{}");
     const name_list names = Meaning::names;
     for (std::size_t i = 0; i < names.count; ++i) {
-      bits.add("[" + std::to_string(__builtin_ctzll(names.values[i])) + ", " + in_quotes(names.name(i)) + "]");
+      flags.add(names.name(i), std::to_string(names.values[i]));
     }
-    facts.add("flags", bits.text());
+    facts.add("flags", flags.text());
   } else if constexpr (Meaning::kind == value_kind::bits) {
     facts.add("bits", std::to_string(8 * sizeof(T)));
   } else if constexpr (Meaning::kind == value_kind::timestamp) {
     facts.add("timestamp", std::to_string(Meaning::empty));
   } else {
     if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
-      facts.add("most", "[100, " + in_quotes(pattern<Meaning>(T{101})) + "]");
+      facts.add("beyond 100", pattern<Meaning>(T{101}));
     }
-    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", in_quotes(pattern<Meaning>(T{99})));
+    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", pattern<Meaning>(T{99}));
     facts.add("names", names_of<Meaning, T>());
   }
   return facts.text();
 }
 
-// Of a field: null if the debugger's own text is as good.
+// Of a field: null if the debugger's own text is as good, or if octets are told by their length.
 template <class Kind> std::string field_facts(const Kind & /*field*/) {
   if constexpr (requires { typename Kind::shown_as_secret; }) {
-    return "{\"otherwise\": \"[SECRET]\", \"names\": {}}";
-  } else if constexpr (requires { typename Kind::value; }) {
-    using Meaning = typename Kind::meaning;
-    if constexpr (std::is_void_v<Meaning> || !std::is_integral_v<typename Kind::value>) {
-      return "";
-    } else if constexpr (Meaning::kind != value_kind::octets) { // these are told by their length
-      return facts_of<Meaning, typename Kind::value>();
+    return in_quotes("[SECRET]");
+  } else if constexpr (requires {
+                         requires std::is_integral_v<typename Kind::value>;
+                         Kind::meaning::kind;
+                       }) {
+    if constexpr (Kind::meaning::kind != value_kind::octets) {
+      return facts_of<typename Kind::meaning, typename Kind::value>();
     }
   }
-  return "";
+  return "null";
 }
 
 // Which values of a number stand for which of the two alternatives of a field.
-template <auto Member, class Meaning>
-std::string alternatives_by(const scalar<Member, Meaning> & /*tag*/, const auto &field) {
+template <class Tag, class First, class Second>
+void add_alternatives(json &all, const tagged<Tag, First, Second> &field) {
   json values("{}");
-  for (int value = 0; value < 256; ++value) {
-    record_of<Member> r{};
-    r.*Member = static_cast<value_of<Member>>(value);
-    if (const int which = field.which(r); which != 0) {
-      values.add(std::to_string(value), in_quotes(which == 1 ? field.first.name : field.second.name));
-    }
+  for (std::uint8_t value = 0; value < UINT8_MAX; ++value) {
+    typename Tag::R r{};
+    r.*Tag::member = value;
+    field.use(r, [&](const auto &alternative) { values.add(std::to_string(value), in_quotes(alternative.name)); });
   }
-  return values.text();
+  all.add(Tag::name, values.text());
 }
-std::string alternatives_by(const auto & /*no number*/, const auto & /*field*/) {
-  return "{}";
-}
-
-// The numbers of a record on which the alternatives of the field depend.
-template <class R> std::string alternatives_of(const auto &field) {
-  json all("{}");
-  if constexpr (requires { field.first; }) {
-    for_each_field<R>([&](const auto &tag) {
-      if (const std::string values = alternatives_by(tag, field); values != "{}") {
-        all.add(tag.name, values);
-      }
-    });
-  }
-  return all.text();
-}
+void add_alternatives(json & /*all*/, const auto & /*no alternatives*/) {}
 
 } // namespace
 
@@ -137,23 +120,20 @@ int main() {
   json texts("[]", ",\n  ");
   json records("{}", ",\n  ");
   std::map<std::string, std::size_t> numbers; // equal texts stand once
-  for_each_record([&]<class R>(const char *type) {
+  for_each_record([&]<class R>(std::string_view type) {
     json fields("{}");
-    std::string alternatives = "{}";
+    json alternatives("{}");
     for_each_field<R>([&](const auto &field) {
       const std::string facts = field_facts(field);
-      if (!facts.empty() && numbers.try_emplace(facts, numbers.size()).second) {
+      const auto [known, is_new] = numbers.try_emplace(facts, numbers.size());
+      if (is_new) {
         texts.add(facts);
       }
-      fields.add(field.name, facts.empty() ? "null" : std::to_string(numbers[facts]));
-      if (const std::string found = alternatives_of<R>(field); found != "{}") {
-        alternatives = found;
-      }
+      fields.add(field.name, std::to_string(known->second));
+      add_alternatives(alternatives, field);
     });
-    json record("{}");
-    record.add("fields", fields.text());
-    record.add("alternatives", alternatives);
-    records.add(std::string_view(type).substr(0, std::string_view(type).size() - 2), record.text()); // without "_t"
+    const std::string name(type.substr(0, type.size() - 2)); // without "_t"
+    records.add(name, json("{}").add("fields", fields.text()).add("alternatives", alternatives.text()).text());
   });
   std::cout << "{\"texts\": " << texts.text() << ",\n\"records\": " << records.text() << "}\n";
   return std::cout.flush() ? 0 : 1;

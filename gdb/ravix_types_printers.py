@@ -10,7 +10,7 @@ its field lists. "print/r" shows the plain structure, secrets included.
 
 import json
 import os
-import re
+import types
 
 import gdb
 import gdb.printing
@@ -18,13 +18,10 @@ import gdb.printing
 with open(os.path.join(os.path.dirname(os.path.realpath(__file__)), "ravix_types_facts.json"), encoding="utf-8") as file:
     FACTS = json.load(file)
 RECORDS = FACTS["records"]
-TEXTS = FACTS["texts"]
+for facts in RECORDS.values():
+    facts["fields"] = {name: FACTS["texts"][number] for name, number in facts["fields"].items()}
 
 NULL = "<nullptr>"
-
-
-def octets(value, count):
-    return [int(value[i]) & 0xFF for i in range(count)]
 
 
 def bare(value_type):
@@ -32,12 +29,17 @@ def bare(value_type):
     return value_type.strip_typedefs().unqualified()
 
 
+def octets(value, count=None):
+    """The first octets of an array, or all of them."""
+    return [int(value[i]) & 0xFF for i in range(bare(value.type).range()[1] + 1 if count is None else count)]
+
+
 def number_text(fact, number):
     """What the library shows for a number."""
     if "flags" in fact:
         number &= (1 << 64) - 1
-        unnamed = number & ~sum(1 << bit for bit, _ in fact["flags"])
-        shown = "".join(name + " " for bit, name in fact["flags"] if number >> bit & 1)
+        unnamed = number & ~sum(fact["flags"].values())
+        shown = "".join(name + " " for name, flag in fact["flags"].items() if number & flag)
         return f"[ {shown}]" + (f" and {unnamed:#x}" if unnamed else "")
     if "bits" in fact:
         return f"{number & (1 << fact['bits']) - 1:0{fact['bits']}b}"
@@ -47,30 +49,19 @@ def number_text(fact, number):
         return fact["names"][str(number)]
     if "errors" in fact:  # a negative errno value
         return os.strerror(-number)
-    most, beyond = fact.get("most", (number, ""))
-    return (beyond if number > most else fact["otherwise"]).format(number)
-
-
-def field_text(fact, value):
-    """The library's text of a value or of an array of values."""
-    if "{" not in fact.get("otherwise", "{") and not fact["names"]:  # one text for whatever there is
-        return fact["otherwise"]
-    if bare(value.type).code == gdb.TYPE_CODE_ARRAY:
-        return ", ".join(number_text(fact, int(value[i])) for i in range(bare(value.type).range()[1] + 1))
-    return number_text(fact, int(value))
+    return fact["beyond 100" if number > 100 and "beyond 100" in fact else "otherwise"].format(number)
 
 
 def octets_text(value):
     """A MAC address or UUID, told by its length."""
-    shown = "".join(f"{o:02X}" for o in octets(value, bare(value.type).range()[1] + 1))
-    if len(shown) == 12:
-        return ":".join(shown[i : i + 2] for i in range(0, 12, 2))
-    return "-".join((shown[:8], shown[8:12], shown[12:16], shown[16:20], shown[20:]))
+    text = bytes(octets(value)).hex().upper()
+    ends = (2, 4, 6, 8, 10, 12) if len(text) == 12 else (8, 12, 16, 20, 32)
+    return (":" if len(text) == 12 else "-").join(text[a:b] for a, b in zip((0, *ends), ends))
 
 
 def channel_info_text(value):
     """primary/centre/width in MHz/puncture map; the range of channels is left out."""
-    width = field_text(TEXTS[RECORDS["ravix_channel_info"]["fields"]["channel_width"]], value["channel_width"])
+    width = number_text(RECORDS["ravix_channel_info"]["fields"]["channel_width"], int(value["channel_width"]))
     return "{:4}/{:4}/{:>3}/{:04x}".format(
         int(value["primary_freq"]) // 1000,
         int(value["center_freq"]) // 1000,
@@ -81,7 +72,7 @@ def channel_info_text(value):
 
 def ip_addr_text(value):
     version = int(value["version"])
-    octet = octets(value["addr"], 16)
+    octet = bytes(octets(value["addr"]))
     if version == 1:
         return ".".join(str(o) for o in octet[:4])
     if version == 2:
@@ -90,12 +81,11 @@ def ip_addr_text(value):
 
 
 def ssid_text(value):
-    length = int(value["len"])
-    shown = octets(value["ssid"], min(length, 32))
+    shown = octets(value["ssid"], min(int(value["len"]), 32))
     printable = [0x20 <= o < 0x7F for o in shown]
     text = "'" + "".join(chr(o) if p else " " for o, p in zip(shown, printable)) + "'"
     dump = "" if all(printable) else "/[ " + "".join(f"{o:02x} " for o in shown) + "]"
-    return f"{text}{dump} (len={length})"
+    return f"{text}{dump} (len={int(value['len'])})"
 
 
 def tlv_text(value):
@@ -103,9 +93,7 @@ def tlv_text(value):
     head = f"type {int(value['type'])}, length {length}"
     if length == 0:
         return head
-    if not int(value["value"]):
-        return f"{head}: {NULL}"
-    return head + ": " + " ".join(f"{o:02x}" for o in octets(value["value"], length))
+    return f"{head}: {bytes(octets(value['value'], length)).hex(' ') if int(value['value']) else NULL}"
 
 
 VALUES = {
@@ -117,88 +105,70 @@ VALUES = {
 }
 
 
-class Text:
-    """A value of one line."""
-
-    def __init__(self, value, text):
-        self.value = value
-        self.text = text
-
-    def to_string(self):
-        return self.text(self.value)
+def field_value(fact, value):
+    """The library's text of a value or of an array of values; without a fact what gdb or a printer shows."""
+    kind = bare(value.type)
+    is_array, is_pointer = kind.code == gdb.TYPE_CODE_ARRAY, kind.code == gdb.TYPE_CODE_PTR
+    if isinstance(fact, str):  # whatever there is
+        return fact
+    if fact:
+        return ", ".join(number_text(fact, number) for number in (octets(value) if is_array else [int(value)]))
+    if is_array and bare(kind.target()).name == "char":
+        return '"' + bytes(octets(value)).split(b"\0")[0].decode("utf-8", "backslashreplace") + '"'
+    if is_array:
+        return octets_text(value)
+    if is_pointer and not int(value):
+        return NULL
+    return value.dereference() if is_pointer and bare(kind.target()).tag in RECORDS else value
 
 
 class Record:
     """A record by its field list; a table as its elements, after whatever else it holds."""
 
     def __init__(self, value):
-        struct = bare(value.type)
         self.value = value
-        self.tag = struct.tag
-        self.facts = RECORDS.get(self.tag, {"fields": {}})
-        self.is_table = {"count", "data"} <= {field.name for field in struct.fields()}
+        self.struct = bare(value.type)
+        facts = RECORDS.get(self.struct.tag, {"fields": {}, "alternatives": {}})
+        self.facts, self.alternatives = facts["fields"], facts["alternatives"]
+        self.is_table = {"count", "data"} <= {field.name for field in self.struct.fields()}
 
     def to_string(self):
         if not self.is_table:
-            return self.tag + "_t"
+            return self.struct.tag + "_t"
         count = int(self.value["count"])
         lost = " without an array" if count and not int(self.value["data"]) else ""
-        return f"{self.tag}_t of {count}{lost}"
+        return f"{self.struct.tag}_t of {count}{lost}"
 
     def members(self):
         """The names of the fields, of two alternatives only the one that there is."""
-        for field in bare(self.value.type).fields():
+        for field in self.struct.fields():
             if field.name:
                 yield field.name
             else:
-                for tag, names in self.facts.get("alternatives", {}).items():
+                for tag, names in self.alternatives.items():
                     if str(int(self.value[tag])) in names:
                         yield names[str(int(self.value[tag]))]
-
-    def child(self, name):
-        value = self.value[name]
-        number = self.facts["fields"].get(name)
-        if number is not None:
-            return field_text(TEXTS[number], value)
-        field_type = bare(value.type)
-        if field_type.code == gdb.TYPE_CODE_ARRAY and bare(field_type.target()).name == "char":
-            text = bytes(octets(value, field_type.range()[1] + 1)).split(b"\0")[0]
-            return '"' + text.decode("utf-8", "backslashreplace") + '"'
-        if field_type.code == gdb.TYPE_CODE_ARRAY:
-            return octets_text(value)
-        if field_type.code == gdb.TYPE_CODE_PTR and not int(value):
-            return NULL
-        if field_type.code == gdb.TYPE_CODE_PTR and bare(field_type.target()).tag in RECORDS:
-            return value.dereference()
-        return value
 
     def children(self):
         for name in self.members():
             if not (self.is_table and name in ("count", "data")):
-                yield name, self.child(name)
+                yield name, field_value(self.facts.get(name), self.value[name])
         if self.is_table and int(self.value["data"]):
-            number = self.facts["fields"].get("data")
             for i in range(int(self.value["count"])):
-                element = self.value["data"][i]
-                yield f"[{i}]", element if number is None else field_text(TEXTS[number], element)
+                yield f"[{i}]", field_value(self.facts.get("data"), self.value["data"][i])
 
 
-class Printers(gdb.printing.PrettyPrinter):
-    """Finds the printer of a value by the name of its structure."""
-
-    def __init__(self):
-        super().__init__("ravix_types", [])
-
-    def __call__(self, value):
-        if re.fullmatch(r"(const )?ravix_mac_t", str(value.type)):
-            return Text(value, octets_text)
-        struct = bare(value.type)
-        if struct.code != gdb.TYPE_CODE_STRUCT or not (struct.tag or "").startswith("ravix_"):
-            return None
-        if struct.tag in VALUES:
-            return Text(value, VALUES[struct.tag])
-        record = Record(value)
-        return record if struct.tag in RECORDS or record.is_table else None
+def ravix_types(value):
+    """The printer of a value by the name of its structure, or None."""
+    tag = bare(value.type).tag or ""
+    if str(value.type) in ("ravix_mac_t", "const ravix_mac_t"):
+        return types.SimpleNamespace(to_string=lambda: octets_text(value))
+    if tag in VALUES:
+        return types.SimpleNamespace(to_string=lambda: VALUES[tag](value))
+    if not tag.startswith("ravix_"):
+        return None
+    record = Record(value)
+    return record if tag in RECORDS or record.is_table else None
 
 
-gdb.printing.register_pretty_printer(None, Printers(), replace=True)
+gdb.printing.register_pretty_printer(None, ravix_types)

@@ -62,32 +62,28 @@ inline std::string json_diff(const record_type &type, const void *r, const void 
       [&](auto write, void *context) { return json_functions_of(type).diff(r, reference, write, context); });
 }
 
-// Without the members that are null, which in a difference is the same as absent.
-inline json without_nulls(const json &value) {
+// Without some of the members, in all records that are part of the value.
+inline json without(bool (*left_out)(const std::string &key, const json &member), const json &value) {
   if (!value.is_structured()) {
     return value;
   }
   json kept = value.is_object() ? json::object() : json::array();
   for (const auto &[key, member] : value.items()) {
     if (value.is_array()) {
-      kept.push_back(without_nulls(member));
-    } else if (!member.is_null()) {
-      kept[key] = without_nulls(member);
+      kept.push_back(without(left_out, member));
+    } else if (!left_out(key, member)) {
+      kept[key] = without(left_out, member);
     }
   }
   return kept;
 }
-
-// Without the one field that a comparison passes over, in all records that are part of the value.
+// Null is the same as absent in a difference.
+inline json without_nulls(const json &value) {
+  return without([](auto & /*key*/, auto &member) { return member.is_null(); }, value);
+}
+// The one field that a comparison passes over.
 inline json without_index(const json &value) {
-  json kept = value;
-  if (kept.is_object()) {
-    kept.erase("index");
-  }
-  if (kept.is_structured()) {
-    std::for_each(kept.begin(), kept.end(), [](json &member) { member = without_index(member); });
-  }
-  return kept;
+  return without([](auto &key, auto & /*member*/) { return key == "index"; }, value);
 }
 
 // What a difference leads to: parts that are equal to a comparison are not in it, and stay those of the reference.

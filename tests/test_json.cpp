@@ -26,16 +26,7 @@
 
 namespace {
 
-using harness::any_sample;
-using harness::json;
-using harness::json_diff;
-using harness::json_functions_of;
-using harness::json_text;
-using harness::randomness;
-using harness::record_type;
-using harness::record_types;
-using harness::sample;
-using harness::variety;
+using namespace harness;
 using zel::ravix::value_kind;
 
 template <class Check> void for_each_type(Check check) {
@@ -196,7 +187,7 @@ template <> json value_of(const ravix_tlv_t &element) {
 // ---- whole records
 
 TEST(Json, IsAsWritten) {
-  harness::golden_sections sections;
+  golden_sections sections;
   const auto add = [&](const char *title, const auto &record) { sections.add(title, text_of(record, 2)); };
   add("scan_request", scan_request);
   add("scan_of_all_radios", scan_of_all_radios);
@@ -218,8 +209,8 @@ TEST(Json, IsAsWritten) {
 // The values are those of the record and nothing else, in the order of its fields; no secret is told, nothing logged
 // and no memory taken. The judge reads numbers as they are: what has no name, no unit, and no end.
 TEST(Json, HasTheValuesOfEveryRecord) {
-  harness::captured_log log;
-  harness::for_all_records([&]<class R>() {
+  captured_log log;
+  for_all_records([&]<class R>() {
     const sample<R> empty;
     EXPECT_EQ(json::parse(text_of(empty.value)), value_of(empty.value));
     for (const variety kind : {variety::usual, variety::full, variety::hostile}) {
@@ -227,13 +218,13 @@ TEST(Json, HasTheValuesOfEveryRecord) {
         const sample<R> record(randomness(seed, kind));
         const json expected = value_of(record.value);
         log.take();
-        harness::heap heap;
+        heap heap;
         const std::string text = text_of(record.value);
         EXPECT_EQ(heap.requests(), 0U);
         EXPECT_TRUE(log.take().empty());
         ASSERT_EQ(json::parse(text), expected) << text;
-        ASSERT_EQ(text.find(harness::secret_mark), std::string::npos);
-        ASSERT_EQ(text.find(hex(harness::secret_mark.data(), 4)), std::string::npos);
+        ASSERT_EQ(text.find(secret_mark), std::string::npos);
+        ASSERT_EQ(text.find(hex(secret_mark.data(), 4)), std::string::npos);
         ASSERT_EQ(text, json::parse(text).dump());
         ASSERT_EQ(text_of(record.value, 2), json::parse(text).dump(2));
       }
@@ -268,7 +259,7 @@ std::string text_of_ssid(const std::string &octets) {
 
 TEST(JsonTexts, AreStringsIfTheyAreUtf8) {
   for (const std::string text : {
-           "", "caf\xC3\xA9", "\x7F", "a full SSID ...................",
+           "", "caf\xC3\xA9", "\x7F", "a full SSID ....................",
            "\xC2\x80\xDF\xBF",                 // the first and the last of two octets
            "\xE0\xA0\x80\xEF\xBF\xBF",         // of three
            "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", // of four
@@ -303,7 +294,7 @@ TEST(JsonTexts, AreStringsIfTheyAreUtf8) {
 // ---- differences
 
 TEST(JsonDifferences, LeadFromTheReferenceToTheValue) {
-  const harness::captured_log log; // rules of types at random speak up when they are cleared
+  const captured_log log; // rules of types at random speak up when they are cleared
   for_each_type([](const record_type &type) {
     if (type.compare == nullptr) {
       return;
@@ -316,8 +307,8 @@ TEST(JsonDifferences, LeadFromTheReferenceToTheValue) {
         EXPECT_EQ(patch, json::object());
         return;
       }
-      EXPECT_TRUE(harness::leads_to(before, patch, after)) << before << "\n" << patch << "\n" << after;
-      EXPECT_EQ(patch.dump().find(harness::secret_mark), std::string::npos);
+      EXPECT_TRUE(leads_to(before, patch, after)) << before << "\n" << patch << "\n" << after;
+      EXPECT_EQ(patch.dump().find(secret_mark), std::string::npos);
       EXPECT_TRUE(patch != json::object() || !after.is_object());
       for (const auto &field : type.fields) {
         if (after.contains(field.name) && after != patch && !is_hostile) { // such an address differs from itself
@@ -428,7 +419,7 @@ TEST(JsonWriters, StopAtTheFirstFailureAndPassItOn) {
 }
 
 TEST(JsonWriters, RefuseNullArgumentsInOneLine) {
-  harness::captured_log log;
+  captured_log log;
   stopper target;
   for_each_type([&](const record_type &type) {
     const any_sample r(type);

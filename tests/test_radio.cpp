@@ -22,7 +22,6 @@
 #include <sstream>
 #include <string>
 #include <tuple>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -164,50 +163,38 @@ void collect(const entry *visited, void *context, uint32_t frequency) {
   *static_cast<std::string *>(context) += ' ' + std::to_string(visited->frequency == frequency ? frequency : 0);
 }
 
-// A call's arguments as they stand in the file; "null" is a null pointer.
-struct arguments {
-  std::vector<std::string> words; // the first is the function
-  std::vector<entry> entries = {{5220000, 20, 0xC8, 0, 0}, {5190000, 20, 1, 0, 0},    {5200000, 20, 0xE9, ~0U, 0},
-                                {5240000, 20, 0x27, 0, 0}, {5170000, 20, 0x27, 0, 0}, {5169999, 20, 0x27, 0, 0},
-                                {5250000, 20, 0x27, 0, 0}, {5250001, 20, 0x27, 0, 0}, {5180000, 20, 0x27, 0x20, 0}};
-  ravix_channel_list_t full = {static_cast<uint32_t>(entries.size()), entries.data()}, no_array = {3, nullptr};
-  info asked = {}, written = {1, 2, 3, 4};
-  uint32_t low = 7, high = 7;
-  std::string visited;
+std::vector<entry> listed = {{5220000, 20, 0xC8, 0, 0}, {5190000, 20, 1, 0, 0},    {5200000, 20, 0xE9, ~0U, 0},
+                             {5240000, 20, 0x27, 0, 0}, {5170000, 20, 0x27, 0, 0}, {5169999, 20, 0x27, 0, 0},
+                             {5250000, 20, 0x27, 0, 0}, {5250001, 20, 0x27, 0, 0}, {5180000, 20, 0x27, 0x20, 0}};
+const ravix_channel_list_t full = {static_cast<uint32_t>(listed.size()), listed.data()}, no_array = {3, nullptr};
 
-  uint32_t number(std::size_t i) const { return static_cast<uint32_t>(std::stoul(words.at(i), nullptr, 0)); }
-  uint16_t code(std::size_t i) const { return static_cast<uint16_t>(number(i)); }
-  float real(std::size_t i) const { return std::strtof(words.at(i).c_str(), nullptr); }
-  auto given(std::size_t i, auto *pointer) const { return words.at(i) != "null" ? pointer : nullptr; }
-  const ravix_channel_list_t *list(std::size_t i) const {
-    return given(i, words.at(i) == "no_array" ? &no_array : &full);
-  }
-  const info *channel(std::size_t i) {
+// An argument as it stands in the file, for a parameter of any type; "null" is a null pointer.
+struct argument {
+  std::string word;
+  mutable info channel = {};
+
+  auto given(auto *pointer) const { return word != "null" ? pointer : nullptr; }
+  template <std::integral T> operator T() const { return static_cast<T>(std::stoul(word, nullptr, 0)); }
+  operator float() const { return std::strtof(word.c_str(), nullptr); }
+  operator const ravix_channel_list_t *() const { return given(word == "no_array" ? &no_array : &full); }
+  operator const info *() const {
+    auto &[primary, center, width, map] = channel;
     const char *const format = "%" SCNu32 "/%" SCNu32 "/%" SCNu16 "/%" SCNx16;
-    const int read = std::sscanf( // NOLINT(cert-err34-c): the numbers stand in a file of ours
-        words.at(i).c_str(), format, &asked.primary_freq, &asked.center_freq, &asked.channel_width,
-        &asked.puncture_map);
-    return read == 4 ? &asked : nullptr;
+    const int read = // NOLINTNEXTLINE(cert-err34-c): the numbers stand in a file of ours
+        std::sscanf(word.c_str(), format, &primary, &center, &width, &map);
+    return read == 4 ? &channel : nullptr;
   }
 };
+using arguments = std::vector<argument>; // the first is the function
 
-// What a function makes of the arguments, read by the types that it takes; or several, one after the other.
-template <class T> T read(arguments &a, std::size_t i) {
-  if constexpr (std::is_pointer_v<T>) {
-    return a.channel(i);
-  } else if constexpr (std::is_floating_point_v<T>) {
-    return a.real(i);
-  } else {
-    return static_cast<T>(a.number(i));
-  }
-}
-template <class Result, class... T> std::string result_of(Result (*function)(T...), arguments &a) {
+// What a function makes of the arguments; or several, one after the other.
+template <class Result, class... T> std::string result_of(Result (*function)(T...), const arguments &a) {
   return [&]<std::size_t... i>(std::index_sequence<i...>) {
-    return shown(function(read<T>(a, i + 1)...));
+    return shown(function(a.at(i + 1)...));
   }
   (std::index_sequence_for<T...>{});
 }
-template <auto First, auto... More> std::string results(arguments &a) {
+template <auto First, auto... More> std::string results(const arguments &a) {
   return (result_of(First, a) + ... + (' ' + result_of(More, a)));
 }
 
@@ -221,7 +208,7 @@ float millionths_of_power(float dbm) {
   return std::round(ravix_dBm_to_power_mW(dbm) / 1e-6F);
 }
 
-const std::map<std::string, std::string (*)(arguments &a)> calls = {
+const std::map<std::string, std::string (*)(const arguments &a)> calls = {
     {"at", results<ravix_frequency_to_channel, ravix_frequency_to_radio_band, ravix_frequency_to_radio_sub_band>},
     {"band", results<ravix_channel_to_radio_band>},
     {"frequency", results<ravix_frequency_from_channel_and_band, frequency_of>},
@@ -236,40 +223,42 @@ const std::map<std::string, std::string (*)(arguments &a)> calls = {
     {"factor", results<millionths_of_factor, millionths_of_power>},
     {"puncture", results<ravix_puncture_map_is_valid>},
     {"numbers",
-     [](arguments &a) {
-       const bool done =
-           ravix_channel_info_to_lowest_and_highest_channel(a.channel(1), a.given(2, &a.low), a.given(3, &a.high));
-       return shown(done) + " {" + shown(a.low, a.high) + '}';
+     [](const arguments &a) {
+       uint32_t low = 7, high = 7;
+       const bool done = ravix_channel_info_to_lowest_and_highest_channel(a[1], a[2].given(&low), a[3].given(&high));
+       return shown(done) + " {" + shown(low, high) + '}';
      }},
     {"walk",
-     [](arguments &a) {
-       const int result = ravix_channel_info_check_range(a.list(1), a.channel(2), a.given(3, &collect), &a.visited);
-       return shown(result) + " {" + a.visited + " }";
+     [](const arguments &a) {
+       std::string visited;
+       const int result = ravix_channel_info_check_range(a[1], a[2], a[3].given(&collect), &visited);
+       return shown(result) + " {" + visited + " }";
      }},
     {"clear",
-     [](arguments &a) {
-       bool clear = a.number(3) == 1;
-       const int result = ravix_channel_is_clear(a.list(1), a.channel(2), a.number(3), a.given(4, &clear));
+     [](const arguments &a) {
+       bool clear = a[3].word == "1";
+       const int result = ravix_channel_is_clear(a[1], a[2], a[3], a[4].given(&clear));
        return shown(result) + " {" + shown(clear) + '}';
      }},
     {"auto",
-     [](arguments &a) {
-       const int result =
-           ravix_create_channel_info_auto(a.number(1), a.code(2), a.number(3) != 0, a.code(4), a.given(5, &a.written));
-       return shown(result) + ' ' + shown(a.written);
+     [](const arguments &a) {
+       info made = {1, 2, 3, 4};
+       const int result = ravix_create_channel_info_auto(a[1], a[2], a[3], a[4], a[5].given(&made));
+       return shown(result) + ' ' + shown(made);
      }},
-    {"search", [](arguments &a) {
-       const int result =
-           ravix_get_max_clear_channel_info(a.list(1), a.number(2), 1, true, a.code(3), a.given(4, &a.written));
-       return shown(result) + ' ' + shown(a.written);
+    {"search", [](const arguments &a) {
+       info found = {1, 2, 3, 4};
+       const int result = ravix_get_max_clear_channel_info(a[1], a[2], 1, true, a[3], a[4].given(&found));
+       return shown(result) + ' ' + shown(found);
      }}};
 
 TEST(Calls, AreAnsweredAsWritten) {
   harness::expect_answers("radio_calls", [](const std::string &call) {
     std::istringstream in(call);
     arguments given;
-    given.words.assign(std::istream_iterator<std::string>(in), {});
-    return calls.at(given.words.at(0))(given);
+    for (std::string word; in >> word;)
+      given.push_back({word});
+    return calls.at(given.at(0).word)(given);
   });
   EXPECT_FALSE(ravix_channel_info_is_valid(nullptr));
   EXPECT_FALSE(ravix_create_channel_info(2412000, 1, false, 0, nullptr));

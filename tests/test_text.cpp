@@ -97,27 +97,16 @@ using formatters = std::map<std::string, std::function<std::string(std::uint64_t
 template <class Value> formatters::value_type named(const char *what, const char *(*format)(Value)) {
   return {what, [format](std::uint64_t value) { return text_by(format, static_cast<Value>(value)); }};
 }
-#define NAMED(what) named(#what, ravix_str_##what)
-
-const formatters measures = {NAMED(frequency),   NAMED(wifi_freq),   NAMED(bitrate),    NAMED(power),
-                             NAMED(percentage),  NAMED(anpi),        NAMED(rcpi),       NAMED(rsni),
-                             NAMED(index),       NAMED(timestamp),   NAMED(enabled),    NAMED(bitfield_8),
-                             NAMED(bitfield_16), NAMED(bitfield_32), NAMED(bitfield_64)};
-const formatters names = {NAMED(pmf_mode),       NAMED(pwe_mode),       NAMED(sta_state),      NAMED(security),
-                          NAMED(event),          NAMED(param_id),       NAMED(encryption),     NAMED(role_state),
-                          NAMED(radar_type),     NAMED(radio_band),     NAMED(role_opmode),    NAMED(device_class),
-                          NAMED(station_type),   NAMED(device_opmode),  NAMED(channel_width),  NAMED(radio_sub_band),
-                          NAMED(connect_status), NAMED(connect_method), NAMED(encryption_akm), NAMED(mac_access_type)};
-const formatters more_names = {NAMED(id),
-                               NAMED(status),
-                               NAMED(simulated_event_type),
-                               NAMED(channel_change_reason),
-                               NAMED(special_handling_trigger),
-                               NAMED(encryption_cipher_suite),
-                               NAMED(encryption_group_mgmt_cipher)};
-const formatters flags = {
-    NAMED(mlo_mode),      NAMED(features),           NAMED(wlan_mode),         NAMED(capabilities),
-    NAMED(channel_state), NAMED(channel_user_flags), NAMED(event_log_control), NAMED(channel_capabilities)};
+#define NAMED(what, ...) named(#what, ravix_str_##what),
+#define MEASURES(MEASURE)                                                                                              \
+  MEASURE(frequency)                                                                                                   \
+  MEASURE(wifi_freq)                                                                                                   \
+  MEASURE(bitrate) MEASURE(power) MEASURE(percentage) MEASURE(index) MEASURE(anpi) MEASURE(rcpi) MEASURE(rsni)         \
+      MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8) MEASURE(bitfield_16) MEASURE(bitfield_32)                \
+          MEASURE(bitfield_64)
+const formatters measures = {MEASURES(NAMED)};
+const formatters names = {NAMED(id) NAMED(status) RAVIX_ENUMERATIONS(NAMED)};
+const formatters flags = {RAVIX_FLAG_SETS(NAMED)};
 
 // The formatters of a record, of octets that follow from a number; the first is a small one as often as not.
 template <class Value> formatters::value_type of_octets(const char *what, const char *(*format)(const Value *)) {
@@ -147,7 +136,7 @@ std::string answer(const std::string &call) {
   const std::vector<std::string> words{std::istream_iterator<std::string>(in), {}};
   const std::string &formatter = words.at(0);
   const auto number = [&](std::size_t i) { return i < words.size() ? std::strtoull(words[i].c_str(), nullptr, 0) : 0; };
-  for (const formatters *group : {&measures, &names, &more_names, &flags}) {
+  for (const formatters *group : {&measures, &names, &flags}) {
     if (const auto found = group->find(formatter); found != group->end()) {
       wall_ahead = static_cast<std::int64_t>(number(2));
       no_local_time = words.back() == "no_local_time";
@@ -179,19 +168,17 @@ TEST(Texts, AreAsWritten) {
 // The values and names of tests/data/names.txt, and the text of what stands in none of its lists.
 TEST(Names, AreThoseOfTheInterfaceAndNoOthers) {
   auto lists = harness::written_names();
-  EXPECT_EQ(lists.size(), 1 + names.size() + more_names.size() + flags.size()); // and that of ravix_str_enabled
-  for (const formatters *group : {&names, &more_names}) {
-    for (const auto &[list, text_of] : *group) {
-      const std::map<std::int64_t, std::string> named(lists[list].begin(), lists[list].end());
-      for (std::int64_t i = 0; i < 73000; ++i) {
-        const std::int64_t value = i < 70000 ? i - 300 : INT32_MIN + (i - 70000);
-        const std::string number = std::to_string(list == "connect_status" ? value : value & UINT32_MAX);
-        const std::string text = named.contains(value) ? named.at(value)
-                                 : list == "id"        ? std::to_string(value)
-                                 : list == "status"    ? std::strerror(static_cast<int>(-value))
-                                                       : "<invalid value: " + number + ">";
-        ASSERT_EQ(text_of(static_cast<std::uint64_t>(value)), text) << list << ' ' << value;
-      }
+  EXPECT_EQ(lists.size(), 1 + names.size() + flags.size()); // and that of ravix_str_enabled
+  for (const auto &[list, text_of] : names) {
+    const std::map<std::int64_t, std::string> named(lists[list].begin(), lists[list].end());
+    for (std::int64_t i = 0; i < 73000; ++i) {
+      const std::int64_t value = i < 70000 ? i - 300 : INT32_MIN + (i - 70000);
+      const std::string number = std::to_string(list == "connect_status" ? value : value & UINT32_MAX);
+      const std::string text = named.contains(value) ? named.at(value)
+                               : list == "id"        ? std::to_string(value)
+                               : list == "status"    ? std::strerror(static_cast<int>(-value))
+                                                     : "<invalid value: " + number + ">";
+      ASSERT_EQ(text_of(static_cast<std::uint64_t>(value)), text) << list << ' ' << value;
     }
   }
   for (const auto &[list, text_of] : flags) {
@@ -233,7 +220,7 @@ TEST(Area, TextsFollowEachOtherAndChangeNothingBehindTheirEnd) {
   place += 65;
   const char *const end = begin + 4096;
   for (int i = 0; i < 100; ++i) {
-    for (const formatters *group : {&measures, &names, &more_names, &flags, &records}) {
+    for (const formatters *group : {&measures, &names, &flags, &records}) {
       for (const auto &[what, text_of] : *group) {
         constexpr char other = '\x80';                       // than all characters of texts
         std::memset(const_cast<char *>(begin), other, 4096); // NOLINT(cppcoreguidelines-pro-type-const-cast)

@@ -119,10 +119,8 @@ std::string expanded(const std::string &input) {
       {"\\{HT (.*)\\}", "\tHT capabilities:\n\t\tx\n\tHT operation:\n\t\t * secondary channel offset: $1"},
       {"\\{VHT (.*), (.*), (.*)\\}", "\tVHT operation:\n\t\t * channel width: $1\n\t\t * center freq segment 1: $2\n"
                                      "\t\t * center freq segment 2: $3"},
-      {"\\{HE (.*), (.*), (.*)\\}", "\tHE Operation:\n\t\tx\n\t\t\tChannel Width: $1\n"
-                                    "\t\t\tCenter Frequency Segment 0: $2\n\t\t\tCenter Frequency Segment 1: $3"},
-      {"\\{EHT (.*), (.*), (.*)\\}", "\tEHT Operation:\n\t\tx\n\t\t\tChannel Width: $1\n"
-                                     "\t\t\tCenter Frequency Segment 0: $2\n\t\t\tCenter Frequency Segment 1: $3"},
+      {"\\{(HE|EHT) (.*), (.*), (.*)\\}", "\t$1 Operation:\n\t\tx\n\t\t\tChannel Width: $2\n"
+                                          "\t\t\tCenter Frequency Segment 0: $3\n\t\t\tCenter Frequency Segment 1: $4"},
       {"\\{extension (\\d+):(.*)\\}", "\tUnknown Extension ID ($1):$2"},
       {"\\{element (\\d+):(.*)\\}", "\tUnknown IE ($1):$2"},
       {"\\{suites (.*)\\}", "\tRSN:\t * Version: 1\n\t\t * Authentication suites: $1"},

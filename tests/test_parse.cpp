@@ -24,16 +24,15 @@ namespace {
 using octets = std::array<std::uint8_t, RAVIX_UUID_LEN>;
 
 // What comes of a text, whatever the type of a parser's output; of octets it is the first one.
-template <class Output>
-std::function<std::string(const char *text, bool has_output)> answer_of(bool (*parse)(const char *, Output *)) {
+using parser = std::function<std::string(const char *text, bool has_output)>;
+template <class Output> parser answer_of(bool (*parse)(const char *, Output *)) {
   return [parse](const char *text, bool has_output) {
     std::array<Output, RAVIX_UUID_LEN> output = {static_cast<Output>(85)}; // which no parser sets here
-    const std::string result = parse(text, has_output ? output.data() : nullptr) ? "read" : "refused";
+    std::string result = parse(text, has_output ? output.data() : nullptr) ? "read" : "refused";
     return has_output ? result + ' ' + std::to_string(output[0]) : result;
   };
 }
 
-using parser = std::function<std::string(const char *text, bool has_output)>;
 const std::map<std::string, parser> parsers = {{"simulated_event_type", answer_of(ravix_simulated_event_type_from_str)},
                                                {"role_opmode", answer_of(ravix_role_opmode_from_str)},
                                                {"connect_method", answer_of(ravix_connect_method_from_str)},
@@ -59,7 +58,7 @@ TEST(Parse, TextsAreReadAsWritten) {
     harness::captured_log log;
     const std::size_t blank = call.find(' ');
     const std::string name = call.substr(0, blank), given = call.substr(blank + 2, call.size() - blank - 3);
-    const std::string answer = parsers.at(name)(given.c_str(), true);
+    std::string answer = parsers.at(name)(given.c_str(), true);
     const bool is_told = has_lines(name) && answer.starts_with("refused");
     EXPECT_EQ(harness::logged(log), is_told ? line_of(name, "Invalid parameter value '" + given + "'!") : "");
     return answer;

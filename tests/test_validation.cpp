@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <fstream>
 #include <map>
+#include <numeric>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -169,19 +170,17 @@ TEST(ErrorTable, HoldsTheLastListsNamesUnlessThatIsEmpty) {
   channels good = spelled("5180+20 AP"), bad = spelled("5190 | 41 | HT40 |");
   const ravix_channel_list_t empty = {}, no_array = {2, nullptr}, accepted = {2, good.data()},
                              refused = {1, bad.data()};
-  const char *const names_of_refused = "INVALID_FREQ INVALID_POWER NO_HT20";
-  const std::pair<const ravix_channel_list_t *, const char *> cases[] = {{&refused, names_of_refused},
-                                                                         {&empty, names_of_refused},
-                                                                         {nullptr, "INVALID_PTR"},
-                                                                         {&empty, "INVALID_PTR"},
-                                                                         {&accepted, ""},
-                                                                         {&no_array, "INVALID_PTR"}};
-  for (const auto &[list, expected] : cases) {
-    const bool accept = list == &empty || list == &accepted;
+  const auto expect = [&](const ravix_channel_list_t *list, bool accept, const char *expected) {
     EXPECT_EQ(ravix_validate_channel_list(list, nullptr), accept);
     EXPECT_EQ(ravix_validate_channel_list(list, &errors), accept);
     EXPECT_EQ(names(errors), expected);
-  }
+  };
+  expect(&refused, false, "INVALID_FREQ INVALID_POWER NO_HT20");
+  expect(&empty, true, "INVALID_FREQ INVALID_POWER NO_HT20");
+  expect(nullptr, false, "INVALID_PTR");
+  expect(&empty, true, "INVALID_PTR");
+  expect(&accepted, true, "");
+  expect(&no_array, false, "INVALID_PTR");
   for (std::size_t k = 1; k <= 6; ++k) { // each name asks for two blocks, and without one only that name is lost
     ravix_types_string_table_clear(&errors);
     heap.fail_only(k);
@@ -214,11 +213,9 @@ channels list_of(const ravix_channel_info_t &channel, channels list) {
 TEST(ChannelList, OfEveryChannelIsAccepted) {
   harness::captured_log log;
   std::size_t made = 0;
-  std::vector<uint16_t> maps;
-  for (uint32_t map = 0; map <= 0xFFFF; ++map) {
-    if (ravix_puncture_map_is_valid(static_cast<uint16_t>(map), nullptr))
-      maps.push_back(static_cast<uint16_t>(map));
-  }
+  std::vector<uint16_t> maps(0x10000);
+  std::iota(maps.begin(), maps.end(), uint16_t{0});
+  std::erase_if(maps, [](uint16_t map) { return !ravix_puncture_map_is_valid(map, nullptr); });
   for (const char *band : {"2412+5 .............", "5180+20 ........", "5500+20 ............", "5745+20 ........",
                            "5955+20 ..........................................................."}) {
     const channels unused = spelled(band);

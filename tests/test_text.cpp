@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <barrier>
 #include <bitset>
@@ -104,7 +103,8 @@ template <class Value> formatters::value_type named(const char *what, const char
   MEASURE(bitrate)                                                                                                     \
   MEASURE(power)                                                                                                       \
   MEASURE(percentage)                                                                                                  \
-  MEASURE(index) MEASURE(anpi) MEASURE(rcpi) MEASURE(rsni) MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8)     \
+  MEASURE(index)                                                                                                       \
+  MEASURE(anpi) MEASURE(rcpi) MEASURE(rsni) MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8)                    \
       MEASURE(bitfield_16) MEASURE(bitfield_32) MEASURE(bitfield_64)
 const formatters measures = {MEASURES(NAMED)};
 const formatters names = {NAMED(id) NAMED(status) RAVIX_ENUMERATIONS(NAMED)};

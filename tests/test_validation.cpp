@@ -13,9 +13,10 @@
 #include <fstream>
 #include <map>
 #include <numeric>
+#include <regex>
+#include <set>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -32,10 +33,10 @@ lines split(const std::string &text, char separator) {
   return parts;
 }
 
-const lines rules_page = [] {
+const std::string rules_page = [] {
   std::ostringstream text;
   text << std::ifstream(RAVIX_DOCS "/channel-rules.md").rdbuf();
-  return split(text.str(), '\n');
+  return text.str();
 }();
 
 // The set of flags that a text names.
@@ -105,28 +106,24 @@ std::string violated(channels list) {
 
 TEST(ChannelRulesPage, SaysWhatTheValidatorSays) {
   harness::captured_log log;
-  std::map<std::string, int> runs;
-  std::string rule, list, block, body;
-  for (const std::string &line : rules_page) {
-    if (line.starts_with("## ")) {
-      rule = line.substr(3);
-    } else if (line == "```list" || line == "```log") {
-      block = line.substr(3);
-      body.clear();
-    } else if (line == "```" && block == "list") {
-      list = body;
-    } else if (line == "```" && block == "log") {
-      EXPECT_EQ(list == "(no list)\n" ? violated(nullptr) : violated(parse(list, '\n')), rule) << list;
-      std::string told;
-      for (const harness::log_line &written : log.take())
-        told += written.text + '\n';
-      EXPECT_EQ(told, body) << list;
-      ++runs[rule];
-    } else {
-      body += line + '\n';
+  std::set<std::string> rules;
+  std::string rule;
+  const std::regex part("## (.*)|```list\n([^`]*)```\n+```log\n([^`]*)```");
+  for (std::sregex_iterator found(rules_page.begin(), rules_page.end(), part), end; found != end; ++found) {
+    const std::smatch &match = *found;
+    if (match[1].matched) {
+      rule = match[1];
+      continue;
     }
+    const std::string list = match[2];
+    EXPECT_EQ(list == "(no list)\n" ? violated(nullptr) : violated(parse(list, '\n')), rule) << list;
+    std::string told;
+    for (const harness::log_line &written : log.take())
+      told += written.text + '\n';
+    EXPECT_EQ(told, match[3]) << list;
+    rules.insert(rule);
   }
-  EXPECT_EQ(runs.size(), 1 + 16U); // the list that breaks nothing, and the rules
+  EXPECT_EQ(rules.size(), 1 + 16U); // the list that breaks nothing, and the rules
 }
 
 // What is said of channels that have every flag, with and without radar detection, against the table on the page.
@@ -137,7 +134,7 @@ TEST(StateFlags, ExcludeEachOtherAsThePageSays) {
   violated(channels{{5745000, 20, RAVIX_CHANNEL_CAP_HT20, 0x7FF, 0}});
   const std::string told = harness::logged(log);
   std::size_t rows = 0;
-  for (const std::string &line : rules_page) {
+  for (const std::string &line : split(rules_page, '\n')) {
     lines columns = split(line, '|');
     if (!line.starts_with("| ") || columns.size() != 3 || columns[1] == " Flag ")
       continue;

@@ -124,13 +124,11 @@ template <class Meaning, class T> json member_value(const T &member) {
     return member != nullptr ? text_value(member) : json();
   } else if constexpr (std::is_same_v<std::remove_extent_t<T>, char>) {
     return text_value(std::string(member, strnlen(member, sizeof member)));
+  } else if constexpr (std::is_array_v<T> && Meaning::kind == value_kind::octets) {
+    return shown<Meaning>(&member[0]);
   } else if constexpr (std::is_array_v<T>) {
     json values = json::array();
-    if constexpr (Meaning::kind == value_kind::octets) {
-      return shown<Meaning>(&member[0]);
-    } else {
-      std::for_each(std::begin(member), std::end(member), [&](auto v) { values.push_back(number_value<Meaning>(v)); });
-    }
+    std::for_each(std::begin(member), std::end(member), [&](auto v) { values.push_back(number_value<Meaning>(v)); });
     return values;
   } else {
     return number_value<Meaning>(zel::ravix::number_of(member));

@@ -105,8 +105,9 @@ template <class Value> formatters::value_type named(const char *what, const char
   MEASURE(percentage)                                                                                                  \
   MEASURE(index)                                                                                                       \
   MEASURE(anpi)                                                                                                        \
-  MEASURE(rcpi) MEASURE(rsni) MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8) MEASURE(bitfield_16)             \
-      MEASURE(bitfield_32) MEASURE(bitfield_64)
+  MEASURE(rcpi)                                                                                                        \
+  MEASURE(rsni) MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8) MEASURE(bitfield_16) MEASURE(bitfield_32)      \
+      MEASURE(bitfield_64)
 const formatters measures = {MEASURES(NAMED)};
 const formatters names = {NAMED(id) NAMED(status) RAVIX_ENUMERATIONS(NAMED)};
 const formatters flags = {RAVIX_FLAG_SETS(NAMED)};
@@ -251,27 +252,23 @@ TEST(Area, EightThreads) {
     for (long round = 0; round < rounds; ++round) {
       const auto n = static_cast<std::uint32_t>(random() >> random() % 32);
       const auto power = static_cast<std::int32_t>(n | 0x80000000U);
-      const std::string expected[] = {"00:01:02:03:04:0" + digit,
-                                      "'thread " + digit + "' (len=8)",
-                                      std::to_string(n) + " kbit/s",
-                                      std::to_string(power) + " dBm",
-                                      n % 2 == 0 ? "[ INFO ]" : "[ WARNING ]",
-                                      "<invalid value: 10" + digit + ">",
-                                      std::bitset<32>(n).to_string(),
-                                      "15.11.2023 03:43:20/[0.00" + digit + "]",
-                                      "<Invalid IP version: 10" + digit + ">"};
+      const struct {
+        std::string expected;
+        std::function<const char *()> make;
+      } rows[] = {{"00:01:02:03:04:0" + digit, [&] { return ravix_str_mac(mac); }},
+                  {"'thread " + digit + "' (len=8)", [&] { return ravix_str_ssid(&ssid, true); }},
+                  {std::to_string(n) + " kbit/s", [&] { return ravix_str_bitrate(n); }},
+                  {std::to_string(power) + " dBm", [&] { return ravix_str_power(power); }},
+                  {n % 2 == 0 ? "[ INFO ]" : "[ WARNING ]", [&] { return ravix_str_event_log_control(1U << n % 2); }},
+                  {"<invalid value: 10" + digit + ">", [&] { return ravix_str_sta_state(100 + id); }},
+                  {std::bitset<32>(n).to_string(), [&] { return ravix_str_bitfield_32(n); }},
+                  {"15.11.2023 03:43:20/[0.00" + digit + "]", [&] { return ravix_str_timestamp(id); }},
+                  {"<Invalid IP version: 10" + digit + ">", [&] { return ravix_str_ip_addr(&unknown); }}};
+      const char *texts[std::size(rows)];
       together.arrive_and_wait();
-      const char *const texts[] = {ravix_str_mac(mac),
-                                   ravix_str_ssid(&ssid, true),
-                                   ravix_str_bitrate(n),
-                                   ravix_str_power(power),
-                                   ravix_str_event_log_control(1U << n % 2),
-                                   ravix_str_sta_state(100 + id),
-                                   ravix_str_bitfield_32(n),
-                                   ravix_str_timestamp(id),
-                                   ravix_str_ip_addr(&unknown)};
+      std::ranges::transform(rows, texts, [](const auto &row) { return row.make(); });
       together.arrive_and_wait();
-      wrong += std::ranges::equal(texts, expected) ? 0 : 1;
+      wrong += std::ranges::equal(rows, texts, [](const auto &row, auto text) { return row.expected == text; }) ? 0 : 1;
       together.arrive_and_wait();
     }
   };

@@ -26,10 +26,9 @@ enum class variety { usual, full, hostile };
 
 class randomness {
 public:
-  explicit randomness(unsigned seed, variety of = variety::usual) : kind(of), engine_(seed) {}
+  explicit randomness(unsigned seed, variety of = variety::usual) : kind(of), engine_(scattered(seed)) {}
   // Chosen by the octets, as far as they go.
-  explicit randomness(std::span<const std::uint8_t> chosen, variety of = variety::usual)
-      : kind(of), engine_(begun()), chosen_(chosen) {}
+  explicit randomness(std::span<const std::uint8_t> chosen, variety of = variety::usual) : kind(of), chosen_(chosen) {}
   // The same as of the seed for that many choices, and different from there on.
   randomness(unsigned seed, std::size_t same) : randomness(seed) { same_ = same; }
 
@@ -44,48 +43,21 @@ public:
   const variety kind;
 
 private:
-  // Seeded, and past its first number, for which it makes the next 623 as well: copies need not.
-  static const std::mt19937 &begun() {
-    static const std::mt19937 engine = [] {
-      std::mt19937 made;
-      made.discard(1);
-      return made;
-    }();
-    return engine;
-  }
+  static std::uint32_t scattered(std::size_t seed) { return static_cast<std::uint32_t>((seed + 1) * 2654435761U); }
 
-  std::mt19937 engine_;
+  std::independent_bits_engine<std::minstd_rand, 32, std::uint32_t> engine_; // copied often, so small
   std::span<const std::uint8_t> chosen_;
   std::size_t choices_ = 0, same_ = SIZE_MAX;
 };
 
-struct record_type;
-
-// A type of values, in members of records and elements of tables.
-struct value_type {
-  std::size_t size, alignment;
-  const record_type *record; // of a record, else null
-  // Makes a random value of one that is empty or owns nothing.
-  void (*fill)(void *value, randomness &random);
-  // Negative, 0 or positive. Strictly, values differ too if they share memory, or in what no comparison heeds.
-  int (*compare)(const void *a, const void *b, bool strictly);
-};
-
-// A field of records, at whose address the functions get them; as those of a value.
 struct field_type {
-  struct member {
-    std::size_t offset;
-    const value_type *type;
-  };
   std::string name;
-  bool is_compared;
-  std::vector<member> members;
-  std::function<void(void *r, randomness &random)> fill;
+  std::size_t begin, end; // its octets in the record, and the padding behind them
+  // Negative, 0 or positive. Strictly, values differ too if they share memory, or in what no comparison heeds.
   std::function<int(const void *a, const void *b, bool strictly)> compare;
 
-  // By the octets of its members, whatever they refer to.
   bool has_same_octets(const void *a, const void *b) const;
-  void take(void *to, const void *from) const;
+  void take(void *to, const void *from) const; // by octets, whatever they refer to
 };
 
 struct record_type {
@@ -93,11 +65,13 @@ struct record_type {
   const std::type_info *info;
   std::size_t size;
   std::vector<field_type> fields;
-  std::vector<const void *> allocating; // exported operations that make blocks
-  bool compares_references;             // a copy is never equal to its source: references to memory are compared
-  bool copies_leniently;                // a copy succeeds when no memory is left for a text
+  // What its exported functions begin with, and the source path that they are told under.
+  std::string prefix, source;
+  bool compares_references; // a copy is never equal to its source: references to memory are compared
+  bool copies_leniently;    // a copy succeeds when no memory is left for a text
 
-  void *(*create)(unsigned count); // which a table starts with
+  std::vector<const void *> allocating; // exported operations that make blocks
+  void *(*create)(unsigned count);      // which a table starts with
   void *(*clone)(const void *old_obj);
   int (*copy)(const void *src, void *dest);
   void (*clear)(void *obj);
@@ -108,25 +82,25 @@ struct record_type {
   void (*print_diff)(std::ostream &os, const void *value, const void *ref, const char *name);
 
   // Of tables; else null.
-  const value_type *element;
+  std::size_t element_size;
+  void (*clear_element)(void *element);
+  int (*order_elements)(const void *a, const void *b, bool strictly);
   std::uint32_t *(*count)(void *table);
   void *(*data)(const void *table);
   int (*init)(void *table, unsigned count);
   int (*add_entry)(void *table, const void *entry);
   bool (*contains_entry)(const void *table, const void *entry); // null unless compared
 
-  // Fills an empty record with what its own rules accept, and a table with so many elements.
-  void fill(void *r, randomness &random) const;
-  void fill_table(void *table, std::uint32_t count, randomness &random) const;
+  // Fills an empty record with what its own rules accept.
+  void (*fill)(void *r, randomness &random);
+  // What a comparison should give.
+  int (*order)(const void *a, const void *b, bool strictly);
   // Name of the first field that differs strictly; "" for records that are the same and share nothing.
   std::string difference(const void *a, const void *b) const;
-  // "<source path> <function>" of the line that tells of a failed operation: "create", "copy" and so on. The public
-  // header that declares the operation names the path, and the function is the exported one, or the template that all
-  // records or tables share.
+  // "<source path> <function>" of the line that tells of a failed operation: "create", "copy" and so on. The function
+  // is the exported one, or the template that all records or tables share.
   std::string site(const std::string &operation) const;
-  // What a comparison should give.
-  int order(const void *a, const void *b, bool strictly = false) const;
-  void *at(const void *table, std::size_t i) const { return static_cast<char *>(data(table)) + i * element->size; }
+  void *at(const void *table, std::size_t i) const { return static_cast<char *>(data(table)) + i * element_size; }
 };
 
 const std::vector<const record_type *> &record_types();
@@ -142,7 +116,6 @@ public:
   any_sample(const any_sample &) = delete;
   any_sample &operator=(const any_sample &) = delete;
   operator void *() const { return memory_.get(); } // NOLINT(google-explicit-constructor): stands for the record
-  const void *at(std::size_t offset) const { return &memory_[offset]; }
 
 private:
   const record_type &type_;
@@ -171,15 +144,19 @@ public:
 
 private:
   struct records;
+  struct attempt {
+    const record_type *type = nullptr;
+    bool is_hostile = false, onward = false;
+    std::size_t k = 0;
+    bool is_reached = false;
+  };
   void copy(const records &all);
   void grow(const records &all);
   void print(const records &all);
   void require(bool holds, const char *invariant);
   bool succeeds(const std::string &name, const std::function<bool()> &operation);
 
-  const record_type *type_ = nullptr;
-  bool is_hostile_ = false, onward_ = false, reached_ = false;
-  std::size_t k_ = 0;
+  attempt now_;
 };
 
 // ---- the same for types that are known

@@ -144,7 +144,7 @@ TEST(CommonTables, FindWhatIsEqualToAnEntry) {
       for (std::uint32_t i = 0; i < *type->count(other); ++i) {
         bool is_there = false;
         for (std::uint32_t k = 0; k < *type->count(table); ++k) {
-          is_there = is_there || type->element->compare(type->at(table, k), type->at(other, i), false) == 0;
+          is_there = is_there || type->order_elements(type->at(table, k), type->at(other, i), false) == 0;
         }
         EXPECT_EQ(type->contains_entry(table, type->at(other, i)), is_there) << type->name << ", " << same;
       }

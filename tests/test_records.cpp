@@ -35,43 +35,28 @@ template <class Check> void for_each(Check check) {
   }
 }
 template <class Check> void for_each_table(Check check) {
-  for_each([&](const record_type &type) { type.element != nullptr ? check(type) : void(); });
+  for_each([&](const record_type &type) { type.init != nullptr ? check(type) : void(); });
 }
 
-// What follows from a field list, if numbers lie at multiples of their own size, or of the machine's widest.
-struct layout {
-  std::size_t size = 0, alignment = 1;
-  std::vector<std::size_t> offsets;
-};
+template <class M> struct member_alone { M member; };
 
-layout layout_of(const record_type &type) {
-  layout all;
-  const auto round_up = [&](std::size_t to) { return (all.size + to - 1) / to * to; };
-  for (const auto &field : type.fields) {
-    for (const auto &member : field.members) {
-      const harness::value_type &value = *member.type;
-      const layout one = value.record != nullptr
-                             ? layout_of(*value.record)
-                             : layout{value.size, std::min(value.alignment, alignof(std::uint64_t)), {}};
-      all.offsets.push_back(round_up(one.alignment));
-      all.size = all.offsets.back() + one.size;
-      all.alignment = std::max(all.alignment, one.alignment);
-    }
-  }
-  all.size = round_up(all.alignment);
-  return all;
-}
-
+// Each member begins where the one before it ends, but for what its alignment takes.
 TEST(AllRecords, FieldListsCoverTheStructuresInOrder) {
-  for_each([&](const record_type &type) {
-    const layout here = layout_of(type);
-    EXPECT_EQ(type.size, here.size);
-    auto offset = here.offsets.begin();
-    for (const auto &field : type.fields) {
-      for (const auto &member : field.members) {
-        EXPECT_EQ(member.offset, *offset++) << "at " << field.name;
-      }
-    }
+  harness::for_all_records([]<class R>() {
+    const harness::sample<R> r;
+    std::size_t end = 0;
+    const auto aligned = [&](std::size_t alignment) { return (end + alignment - 1) / alignment * alignment; };
+    zel::ravix::for_each_field<R>([&](const auto &field) {
+      std::size_t begin = SIZE_MAX;
+      field.members(r.value, [&]<class M>(const M &member) {
+        const auto offset = reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(&r.value);
+        EXPECT_EQ(offset, aligned(alignof(member_alone<M>))) << "at " << field.name;
+        begin = std::min(begin, offset);
+        end = offset + sizeof(M);
+      });
+      EXPECT_EQ(field.offset, begin) << "at " << field.name;
+    });
+    EXPECT_EQ(sizeof(R), aligned(alignof(R)));
   });
 }
 
@@ -177,7 +162,7 @@ void refuse_null_arguments(bool is_logged) {
       EXPECT_EQ(type.difference(r, twin), "");
     };
     // A table without a value of its own tests the source first.
-    const bool source_first = type.element != nullptr && type.fields.size() == 1;
+    const bool source_first = type.init != nullptr && type.fields.size() == 1;
     expect("copy", type.copy(nullptr, r) == -22, "src");
     expect("copy", type.copy(r, nullptr) == -22, "dest");
     expect("copy", type.copy(nullptr, nullptr) == -22, source_first ? "src" : "dest");
@@ -189,8 +174,8 @@ void refuse_null_arguments(bool is_logged) {
       EXPECT_EQ(type.compare(nullptr, r), -1);
       EXPECT_EQ(type.compare(r, nullptr), 1);
     }
-    if (type.element != nullptr) {
-      const std::vector<std::byte> entry(type.element->size);
+    if (type.init != nullptr) {
+      const std::vector<std::byte> entry(type.element_size);
       expect("init", type.init(nullptr, 1) == -22, "table");
       expect("add_entry", type.add_entry(nullptr, entry.data()) == -22, "table");
       expect("add_entry", type.add_entry(r, nullptr) == -22, "entry");
@@ -218,7 +203,7 @@ TEST(AllTables, RefuseToGrowBeyondThe32BitCount) {
   harness::captured_log log;
   for_each_table([&](const record_type &type) {
     const any_sample table(type);
-    const std::vector<std::byte> entry(type.element->size);
+    const std::vector<std::byte> entry(type.element_size);
     const auto refusal = [&](std::uint32_t count) {
       *type.count(table) = count;
       EXPECT_EQ(type.add_entry(table, entry.data()), -22);
@@ -226,7 +211,7 @@ TEST(AllTables, RefuseToGrowBeyondThe32BitCount) {
       return lines.size() == 1 ? lines[0].function + ": " + lines[0].text : "";
     };
     EXPECT_EQ(refusal(UINT32_MAX), "generic_table_add_entry: Maximum number of entries reached!");
-    const auto most = static_cast<std::uint32_t>(UINT32_MAX / type.element->size); // the bytes of one more wrap
+    const auto most = static_cast<std::uint32_t>(UINT32_MAX / type.element_size); // the bytes of one more wrap
     EXPECT_EQ(refusal(most), "generic_table_add_entry: Overflow would occur!");
   });
 }
@@ -256,7 +241,7 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
     *type.count(hollow) = 5;
     EXPECT_EQ(type.add_entry(hollow, type.data(source)), 0);
     EXPECT_EQ(*type.count(hollow), 1U);
-    EXPECT_EQ(heap.size_of(type.data(hollow)), type.element->size);
+    EXPECT_EQ(heap.size_of(type.data(hollow)), type.element_size);
   });
   EXPECT_EQ(heap.live(), 0U);
 }
@@ -265,23 +250,23 @@ TEST(AllTables, ACountWithoutAnArrayCountsNothing) {
 
 // A field at a time is made empty.
 TEST(ComparedRecords, HeedEveryFieldButTheIndexOfAServer) {
-  std::set<std::string> unheeded, heeded;
+  std::set<std::string> unheeded;
   for_each([&](const record_type &type) {
-    for (unsigned seed = 0; seed < 8 && type.compare != nullptr; ++seed) {
-      const any_sample record(type, randomness(seed, variety::full));
-      const any_sample empty(type);
-      for (const auto &field : type.fields) {
+    for (const auto &field : type.fields) {
+      bool is_heeded = type.compare == nullptr;
+      for (unsigned seed = 0; seed < 16 && !is_heeded; ++seed) {
+        const any_sample record(type, randomness(seed, variety::full));
         std::vector<std::byte> other(type.size); // shares what the record has
         std::memcpy(other.data(), record, type.size);
-        field.take(other.data(), empty);
-        if (!field.has_same_octets(record, empty)) {
-          (type.compare(record, other.data()) == 0 ? unheeded : heeded).insert(type.name + "." + field.name);
-        }
+        field.take(other.data(), any_sample(type));
+        is_heeded = type.compare(record, other.data()) != 0;
+      }
+      if (!is_heeded) {
+        unheeded.insert(type.name + "." + field.name);
       }
     }
   });
   EXPECT_EQ(unheeded, std::set<std::string>{"ravix_cfg_radius_server.index"});
-  EXPECT_GT(heeded.size(), 130U);
 }
 
 TEST(ComparedRecords, TheFirstFieldThatDiffersDecides) {
@@ -296,7 +281,7 @@ TEST(ComparedRecords, TheFirstFieldThatDiffersDecides) {
       type.fill(a, random);
       for (std::size_t same = 0; same <= random.choices(); ++same) {
         const any_sample b(type, randomness(seed, same));
-        const int order = type.order(a, b);
+        const int order = type.order(a, b, false);
         const int real[] = {type.compare(a, b), type.compare(b, a)};
         ASSERT_TRUE((order < 0) == (real[0] < 0) && (order > 0) == (real[0] > 0)) << type.difference(a, b);
         ASSERT_TRUE((order > 0) == (real[1] < 0) && (order < 0) == (real[1] > 0)) << type.difference(a, b);

@@ -24,6 +24,10 @@ struct log_line {
   std::string text;
 };
 
+inline int sign(int order) {
+  return (order > 0) - (order < 0);
+}
+
 // Captures every log line while it lives, of one thread.
 class captured_log {
 public:

@@ -251,10 +251,6 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
   row.source = source;
   row.compares_references = row.name.starts_with("ravix_tlv");
   row.copies_leniently = row.name.starts_with("ravix_remote_");
-  const auto allocates = [&](auto &...function) {
-    (row.allocating.push_back(reinterpret_cast<const void *>(&function)), ...);
-  };
-  allocates(operations::create, operations::clone, operations::copy);
   row.clone = erased<operations::clone>::call;
   row.copy = erased<operations::copy>::call;
   row.clear = erased<operations::clear>::call;
@@ -272,7 +268,6 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
   }
   if constexpr (requires { operations::init; }) {
     using E = zel::ravix::element_of<R>;
-    allocates(operations::init, operations::add_entry);
     row.create = erased<operations::create>::call;
     row.element_size = sizeof(E);
     if constexpr (has_fields<E>) {

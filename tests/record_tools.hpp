@@ -70,8 +70,7 @@ struct record_type {
   bool compares_references; // a copy is never equal to its source: references to memory are compared
   bool copies_leniently;    // a copy succeeds when no memory is left for a text
 
-  std::vector<const void *> allocating; // exported operations that make blocks
-  void *(*create)(unsigned count);      // which a table starts with
+  void *(*create)(unsigned count); // which a table starts with
   void *(*clone)(const void *old_obj);
   int (*copy)(const void *src, void *dest);
   void (*clear)(void *obj);

@@ -115,21 +115,6 @@ static ravix_station_history_entry_t roaming_client[] = { /* leaves for the repe
      .status_disconnect = 12, .initiator_disconnect = 2, .ieee802_11_reason_disconnect = 8}};
 static const ravix_station_history_table_t station_history = ROWS(roaming_client);
 
-/* ---- steering (802.11k and 802.11v): what the roaming client was offered, asked for, and answered */
-
-static const ravix_btm_candidate_t neighbour_report = {
-    .bssid = MAC(0x30, 0x05), .operating_class = 129, .channel_number = 50, .bssid_info = 0x00001A9F, .phy_type = 9,
-    .preference = 200, .reserved = {0}};
-static const ravix_beacon_report_rrm_req_params_t beacon_request = {
-    .operating_class = 115, .channel_number = 255, .randomization_interval = 20, .measurement_duration = 50,
-    .measurement_mode = 1, .bssid = {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF}, .ssid = TEXT("lighthouse"),
-    .reporting_detail = 2, .request_count = 0, .request_ids = NULL, .ap_channel_reports = {0, NULL},
-    .subelement_count = 0, .subelements = NULL};
-static const ravix_beacon_report_t beacon_report = {
-    .start_time = 0x0000000123456789, .parent_tsf = 0x23456789, .duration = 50, .operating_class = 115,
-    .channel_number = 36, .bssid = MAC(0x30, 0x05), .reported_frame_info = 9, .rcpi = 120, .rsni = 70,
-    .antenna_id = 1, .token = 3, .report_mode = 0, .reserved = {0}};
-
 /* ---- the device's configuration */
 
 static char trace_of_scans[] = "scan,acs", lighthouse[] = "lighthouse", lighthouse_guests[] = "lighthouse guests";

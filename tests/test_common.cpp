@@ -20,11 +20,8 @@
 
 namespace {
 
+using harness::sign;
 using zel::ravix::operations;
-
-int sign(int order) {
-  return (order > 0) - (order < 0);
-}
 
 template <auto Member> void expect_ended(const zel::ravix::bounded_text<Member> & /*field*/) {
   using R = zel::ravix::record_of<Member>;

@@ -2,6 +2,7 @@
 #include "harness.hpp"
 #include "record_tools.hpp"
 
+#include "ravix_types_handles.hpp"
 #include "ravix_types_steering.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +12,10 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <dlfcn.h>
 #include <fstream>
+#include <functional>
 #include <set>
 #include <string>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -95,16 +95,14 @@ template <class Run> void fail_each_request(harness::trial &trial, Run run) {
 TEST(AllRecords, SurviveEveryAllocationThatFails) {
   harness::trial trial;
   std::set<std::string> operations;
-  const auto add = [&](const void *function) {
-    Dl_info info{};
-    if (dladdr(function, &info) != 0 && info.dli_sname != nullptr) { // a static program has no names
-      operations.insert(info.dli_sname);
-    }
-  };
   const char *wanted = std::getenv("RAVIX_FAULT_SEEDS"); // NOLINT(concurrency-mt-unsafe)
   const unsigned rounds = wanted != nullptr ? static_cast<unsigned>(std::strtoul(wanted, nullptr, 10)) : 12;
   for_each([&](const record_type &type) {
-    std::for_each(type.allocating.begin(), type.allocating.end(), add);
+    for (const std::string operation : {"_create", "_clone", "_copy", "_init", "_add_entry"}) {
+      if (type.init != nullptr || operation[1] == 'c') {
+        operations.insert(type.prefix + operation);
+      }
+    }
     for (unsigned seed = 0; seed < rounds; ++seed) {
       for (const variety kind : {variety::usual, variety::full, variety::hostile}) {
         fail_each_request(trial, [&](std::size_t k, bool onward) {
@@ -114,28 +112,31 @@ TEST(AllRecords, SurviveEveryAllocationThatFails) {
     }
   });
   // What has no field list.
-  const auto try_function = [&]<class T>(auto &function, void (&release)(T *)) {
-    add(reinterpret_cast<const void *>(&function));
-    const auto operation = [&] {
-      T filled{};
-      T *made = nullptr;
-      if constexpr (std::is_invocable_v<decltype(function), unsigned>) {
-        made = function(3);
-      } else {
-        made = function(&filled, 3) == 0 ? &filled : nullptr;
-      }
-      release(made);
-      return made != nullptr;
-    };
-    fail_each_request(trial, [&](std::size_t k, bool onward) { return trial.run(operation, k, onward); });
+  const auto initialise = []<class T>(int (&init)(T *, unsigned), void (&clear)(T *)) {
+    T list{};
+    const int code = init(&list, 3);
+    clear(&list);
+    return code == 0;
   };
-  try_function(ravix_types_station_history_create, ravix_types_station_history_free);
-  try_function(ravix_types_btm_candidate_table_create, ravix_types_btm_candidate_table_free);
-  try_function(ravix_types_ap_channel_report_table_create, ravix_types_ap_channel_report_table_free);
-  try_function(ravix_types_beacon_report_table_create, ravix_types_beacon_report_table_free);
-  try_function(ravix_types_btm_candidate_table_init, ravix_types_btm_candidate_table_clear);
-  try_function(ravix_types_ap_channel_report_init, ravix_types_ap_channel_report_clear);
-  try_function(ravix_types_ap_channel_report_table_init, ravix_types_ap_channel_report_table_clear);
+  const std::pair<const char *, std::function<bool()>> others[] = {
+      {"ravix_types_station_history_create", [] { return ravix::create<ravix_station_history_t>(3) != nullptr; }},
+      {"ravix_types_btm_candidate_table_create",
+       [] { return ravix::create<ravix_btm_candidate_table_t>(3) != nullptr; }},
+      {"ravix_types_ap_channel_report_table_create",
+       [] { return ravix::create<ravix_ap_channel_report_table_t>(3) != nullptr; }},
+      {"ravix_types_beacon_report_table_create",
+       [] { return ravix::create<ravix_beacon_report_table_t>(3) != nullptr; }},
+      {"ravix_types_btm_candidate_table_init",
+       [&] { return initialise(ravix_types_btm_candidate_table_init, ravix_types_btm_candidate_table_clear); }},
+      {"ravix_types_ap_channel_report_init",
+       [&] { return initialise(ravix_types_ap_channel_report_init, ravix_types_ap_channel_report_clear); }},
+      {"ravix_types_ap_channel_report_table_init",
+       [&] { return initialise(ravix_types_ap_channel_report_table_init, ravix_types_ap_channel_report_table_clear); }},
+  };
+  for (const auto &[name, operation] : others) {
+    operations.insert(name);
+    fail_each_request(trial, [&, &run = operation](std::size_t k, bool onward) { return trial.run(run, k, onward); });
+  }
   EXPECT_EQ(trial.heap.live(), 0U);
   report(trial.heap, operations);
 }

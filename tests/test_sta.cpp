@@ -16,10 +16,13 @@
 
 namespace {
 
+template <class T> std::string octets_of(const T *data, std::size_t count = 1) {
+  return {reinterpret_cast<const char *>(data), count * sizeof(T)};
+}
+
 // Elements in words.
 template <class T> std::string words(const T *data, std::size_t count) {
-  const std::string octets(reinterpret_cast<const char *>(data), count * sizeof(T));
-  const bool zeroes = octets.find_first_not_of('\0') == std::string::npos;
+  const bool zeroes = octets_of(data, count).find_first_not_of('\0') == std::string::npos;
   return std::to_string(count) + (data == nullptr ? ", no array" : zeroes ? " zeroes" : " of something");
 }
 template <class T> std::string words(const T &list) {
@@ -86,13 +89,13 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
 
 TEST(Steering, ARequestGivesUpItsListsAndKeepsItsPlainValues) {
   harness::heap heap;
-  ravix_beacon_report_rrm_req_params_t request, cleared;
+  ravix_beacon_report_rrm_req_params_t request;
   std::memset(&request, 0x5A, sizeof request);
   request.request_count = request.ap_channel_reports.count = request.subelement_count = 0;
   request.request_ids = nullptr;
   request.ap_channel_reports.data = nullptr;
   request.subelements = nullptr;
-  std::memcpy(&cleared, &request, sizeof request);
+  const std::string cleared = octets_of(&request);
   const auto make = [](auto &count, auto *&array, std::size_t size) {
     count = static_cast<std::uint8_t>(size);
     array = static_cast<std::remove_reference_t<decltype(array)>>(slab_dcalloc(size, sizeof *array, "tests", __LINE__));
@@ -105,7 +108,7 @@ TEST(Steering, ARequestGivesUpItsListsAndKeepsItsPlainValues) {
   EXPECT_EQ(heap.live(), 5U);
   for (int times = 0; times < 2; ++times) {
     ravix_types_beacon_report_rrm_req_params_clear(&request);
-    EXPECT_EQ(std::memcmp(&request, &cleared, sizeof request), 0);
+    EXPECT_EQ(octets_of(&request), cleared);
     EXPECT_EQ(heap.live(), 0U);
   }
   ravix_types_beacon_report_rrm_req_params_clear(nullptr);

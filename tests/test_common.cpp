@@ -85,6 +85,16 @@ TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
   EXPECT_GE(texts, 8);
 }
 
+TEST(CommonValues, CopiesOfNamesAndKeysHaveNothingBehindTheirEnd) {
+  const auto octets_of_copy = []<class T>(const T &src) {
+    harness::sample<T> dest(1);
+    EXPECT_EQ(operations<T>::copy(&src, &dest.value), 0);
+    return std::string(reinterpret_cast<const char *>(&dest.value), sizeof(T));
+  };
+  EXPECT_EQ(octets_of_copy(ravix_ssid_t{2, "guest"}), std::string("\2gu").append(sizeof(ravix_ssid_t) - 3, '\0'));
+  EXPECT_EQ(octets_of_copy(ravix_key_t{2, "guest"}), std::string("\2gu").append(sizeof(ravix_key_t) - 3, '\0'));
+}
+
 // The golden file has records by their octets.
 TEST(CommonValues, CompareAsWritten) {
   harness::expect_answers("common_orders", [&](const std::string &call) {

@@ -60,7 +60,7 @@ TEST(Programs, DoAsRecorded) {
   harness::expect_answers("examples", [](const std::string &call) {
     const std::size_t golden = call.find(" > ");
     std::string output;
-    const std::string status = std::to_string(run(call.substr(0, golden), output));
+    std::string status = std::to_string(run(call.substr(0, golden), output));
     if (golden != std::string::npos) {
       harness::expect_golden(call.substr(golden + 3), output);
       return status;

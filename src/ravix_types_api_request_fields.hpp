@@ -7,30 +7,19 @@
 namespace zel::ravix {
 
 RAVIX_FIELD_LIST(ravix_start_scan_request_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(radio_id, id),
-      RAVIX_FIELD(scan_parameter),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(radio_id, id), RAVIX_FIELD(scan_parameter)};
 };
 
 RAVIX_FIELD_LIST(ravix_start_scan_response_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(status, status),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(status, status)};
 };
 
 RAVIX_FIELD_LIST(ravix_get_scan_results_request_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(radio_id, id),
-      RAVIX_FIELD(selective_scan_results),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(radio_id, id), RAVIX_FIELD(selective_scan_results)};
 };
 
 RAVIX_FIELD_LIST(ravix_get_scan_results_response_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(status, status),
-      RAVIX_FIELD(scan_results),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(status, status), RAVIX_FIELD(scan_results)};
 };
 
 } // namespace zel::ravix

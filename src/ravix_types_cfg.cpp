@@ -2,23 +2,14 @@
 
 #include "ravix_types_define.hpp"
 
-#include <array>
-#include <charconv>
 #include <cstring>
-#include <string_view>
-
-namespace {
 
 constexpr const char *here = "src/ravix_types_cfg";
-
-}
 
 namespace zel::ravix {
 
 void rule_tag::log_rejected(const R &rule, call_site site) {
-  std::array<char, 10> digits{};
-  const char *end = std::to_chars(digits.data(), digits.data() + digits.size(), rule.type).ptr;
-  log_error(site, {"Invalid update rule type '", {digits.data(), static_cast<std::size_t>(end - digits.data())}, "'"});
+  log_error(site, {"Invalid update rule type '", decimal(rule.type), "'"});
   log_assertion(site, "!\"Invalid update rule type\"");
 }
 

@@ -71,29 +71,19 @@ constexpr tagged<Tag, First, Second> tag_fields(const char *name, std::size_t of
 // ---- records
 
 RAVIX_FIELD_LIST(ravix_cfg_debug_settings_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(trace_state),
-      RAVIX_FIELD(trace_parameter),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(trace_state), RAVIX_FIELD(trace_parameter)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_meshd_settings_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(band_steering),
-      RAVIX_FIELD(backhaul_steering),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(band_steering), RAVIX_FIELD(backhaul_steering)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_time_control_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(forced_off),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(forced_off)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_repeating_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(overwrite_ap_config),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(overwrite_ap_config)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_access_control_settings_t) {
@@ -122,15 +112,11 @@ RAVIX_FIELD_LIST(ravix_cfg_global_settings_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_auto_update_role_opmode_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(role_opmode, role_opmode),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(role_opmode, role_opmode)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_auto_update_feature_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(feature, features),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(feature, features)};
 };
 
 struct rule_tag {
@@ -180,18 +166,11 @@ RAVIX_FIELD_LIST(ravix_cfg_radio_static_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_radio_dynamic_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(id, id),
-      RAVIX_FIELD(enabled),
-      RAVIX_FIELD(auto_channel),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(id, id), RAVIX_FIELD(enabled), RAVIX_FIELD(auto_channel)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_wlan_wps_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(enable),
-      RAVIX_FIELD(uuid, uuid),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(enable), RAVIX_FIELD(uuid, uuid)};
 };
 
 // Servers are the same wherever they stand in the operator's list.
@@ -235,11 +214,7 @@ RAVIX_FIELD_LIST(ravix_cfg_role_access_control_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_role_ap_time_control_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(timeout_active),
-      RAVIX_FIELD(timeout_minutes),
-      RAVIX_FIELD(force_off),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(timeout_active), RAVIX_FIELD(timeout_minutes), RAVIX_FIELD(force_off)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_role_config_ap_t) {
@@ -255,10 +230,7 @@ RAVIX_FIELD_LIST(ravix_cfg_role_config_ap_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_role_config_sta_uplink_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(ssid),
-      RAVIX_FIELD(mac_master, mac),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(ssid), RAVIX_FIELD(mac_master, mac)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_role_config_sta_t) {
@@ -337,10 +309,7 @@ RAVIX_FIELD_LIST(ravix_cfg_owe_transition_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_mld_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(mld_mac, mac),
-      RAVIX_FIELD(mld_role_ids),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(mld_mac, mac), RAVIX_FIELD(mld_role_ids)};
 };
 
 RAVIX_FIELD_LIST(ravix_cfg_role_dynamic_t) {

@@ -2,9 +2,7 @@
 
 #include "ravix_types_define.hpp"
 
-namespace {
 constexpr const char *here = "src/ravix_types_common";
-}
 
 // Owned texts as elements of a table; a failed copy is known to log filters by the name "string_copy".
 void zel::ravix::element<char *>::clear(char **slot) {

@@ -55,9 +55,7 @@ RAVIX_FIELD_LIST(ravix_tlv_t) {
 };
 
 template <> struct field_list<ravix_frequency_table_t> : table_fields<ravix_frequency_table_t, meaning::frequency> {};
-
 template <> struct field_list<ravix_id_table_t> : table_fields<ravix_id_table_t, meaning::id> {};
-
 template <> struct field_list<ravix_mac_table_t> : table_fields<ravix_mac_table_t, meaning::mac> {};
 
 // Owned texts as elements: a slot may be null.

@@ -14,18 +14,11 @@ RAVIX_FIELD_LIST(ravix_event_log_entry_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_event_scan_results_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(radio_id, id),
-      RAVIX_FIELD(scan_parameter),
-      RAVIX_FIELD(scan_results),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(radio_id, id), RAVIX_FIELD(scan_parameter), RAVIX_FIELD(scan_results)};
 };
 
 RAVIX_FIELD_LIST(ravix_event_green_ap_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(radio_id, id),
-      RAVIX_FIELD(enabled),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(radio_id, id), RAVIX_FIELD(enabled)};
 };
 
 RAVIX_FIELD_LIST(ravix_event_channel_change_t) {
@@ -85,11 +78,7 @@ RAVIX_FIELD_LIST(ravix_event_client_state_update_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_event_client_activity_update_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(role_id, id),
-      RAVIX_FIELD(mac, mac),
-      RAVIX_FIELD(active),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(role_id, id), RAVIX_FIELD(mac, mac), RAVIX_FIELD(active)};
 };
 
 RAVIX_FIELD_LIST(ravix_event_client_rssi_update_t) {

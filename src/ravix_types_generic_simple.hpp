@@ -57,12 +57,16 @@ inline constexpr int clone_copy_error_line = 75;
 inline constexpr int free_line = 99;
 
 // Zero-filled memory of a record, or null and a message. `path` is the source path of the record's family.
-RAVIX_SHARED void *allocate_to_create(std::size_t size, const char *path) {
-  void *record = slab_dcalloc(1, size, own_path, create_allocation_line);
+inline void *allocate(std::size_t size, int line, call_site no_memory) {
+  void *record = slab_dcalloc(1, size, own_path, line);
   if (record == nullptr) [[unlikely]] {
-    log_error({path, "generic_create", create_no_memory_line}, "No memory available!");
+    log_error(no_memory, "No memory available!");
   }
   return record;
+}
+
+RAVIX_SHARED void *allocate_to_create(std::size_t size, const char *path) {
+  return allocate(size, create_allocation_line, {path, "generic_create", create_no_memory_line});
 }
 
 RAVIX_SHARED void *allocate_to_clone(const void *old_obj, std::size_t size, const char *path) {
@@ -70,11 +74,7 @@ RAVIX_SHARED void *allocate_to_clone(const void *old_obj, std::size_t size, cons
     log_invalid_pointer({path, "generic_clone", clone_null_line}, "old_obj");
     return nullptr;
   }
-  void *record = slab_dcalloc(1, size, own_path, clone_allocation_line);
-  if (record == nullptr) [[unlikely]] {
-    log_error({path, "generic_clone", clone_no_memory_line}, "No memory available!");
-  }
-  return record;
+  return allocate(size, clone_allocation_line, {path, "generic_clone", clone_no_memory_line});
 }
 
 RAVIX_SHARED void log_clone_copy_error(const char *path) {

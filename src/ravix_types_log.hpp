@@ -1,7 +1,10 @@
 // The one way in which the library writes a diagnostic line.
 #pragma once
 
+#include <charconv>
+#include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <string_view>
 
 namespace zel::ravix {
@@ -16,6 +19,17 @@ struct call_site {
   constexpr call_site(const char *source_path, // NOLINT(google-explicit-constructor): meant to convert
                       const char *function_name = __builtin_FUNCTION(), int line_number = __builtin_LINE())
       : path(source_path), function(function_name), line(line_number) {}
+};
+
+// A number as a part of a message.
+class decimal {
+public:
+  explicit decimal(std::int64_t value) : end_(std::to_chars(text_, std::end(text_), value).ptr) {}
+  operator std::string_view() const { return {text_, end_}; } // NOLINT(google-explicit-constructor): meant to convert
+
+private:
+  char text_[20];
+  const char *end_;
 };
 
 // The functions below write one error-level line. They never throw: a line for which no memory is left is lost.

@@ -31,15 +31,6 @@ template <std::size_t Size> struct literal {
   consteval literal(const char (&from)[Size]) { std::copy_n(from, Size, text); } // NOLINT(google-explicit-constructor)
 };
 
-// By hand, since g++ 12 refuses find() on a template's argument where undefined behaviour is watched for.
-constexpr std::size_t length_before_comma(std::string_view text) {
-  std::size_t length = 0;
-  while (length < text.size() && text[length] != ',') {
-    ++length;
-  }
-  return length;
-}
-
 // The table of values whose names are listed with ", " between them, each without the prefix that all of them share.
 template <literal Prefix, literal Names, class Value, std::size_t Count>
 consteval auto make_name_table(const Value (&values)[Count]) {
@@ -48,7 +39,8 @@ consteval auto make_name_table(const Value (&values)[Count]) {
   std::string_view rest = Names.text;
   std::size_t at = 0;
   for (std::size_t i = 0; i < Count; ++i) {
-    const std::string_view name = rest.substr(0, length_before_comma(rest));
+    // The view's own find() is refused by g++ 12 on a template's argument where undefined behaviour is watched for.
+    const std::string_view name(rest.begin(), std::find(rest.begin(), rest.end(), ','));
     if (!name.starts_with(prefix) || name.size() >= prefix.size() + name_block) {
       throw "a name has another prefix or is too long"; // what throws does not compile
     }

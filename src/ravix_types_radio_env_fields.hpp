@@ -7,11 +7,7 @@
 namespace zel::ravix {
 
 RAVIX_FIELD_LIST(ravix_scan_parameter_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(frequencies),
-      RAVIX_FIELD(ssids),
-      RAVIX_FIELD(bssids),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(frequencies), RAVIX_FIELD(ssids), RAVIX_FIELD(bssids)};
 };
 
 RAVIX_FIELD_LIST(ravix_scan_entry_t) {
@@ -46,10 +42,7 @@ RAVIX_FIELD_LIST(ravix_channel_entry_t) {
 };
 
 RAVIX_FIELD_LIST(ravix_radio_load_entry_t) {
-  static constexpr std::tuple fields{
-      RAVIX_FIELD(global_usage, percentage),
-      RAVIX_FIELD(own_tx_usage, percentage),
-  };
+  static constexpr std::tuple fields{RAVIX_FIELD(global_usage, percentage), RAVIX_FIELD(own_tx_usage, percentage)};
 };
 
 RAVIX_FIELD_LIST(ravix_radio_airtime_entry_t) {

@@ -2,9 +2,7 @@
 
 #include "ravix_types_define.hpp"
 
-namespace {
 constexpr const char *here = "src/ravix_types_sta";
-}
 
 #define RAVIX_STA_RECORD RAVIX_DEFINE
 #include "ravix_types_records.def"

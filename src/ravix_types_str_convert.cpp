@@ -37,13 +37,6 @@ bool is_null(const void *pointer, const char *argument, call_site site = here) {
 
 // --- Building texts ---
 
-// Publishes a text that has been built elsewhere.
-const char *publish(std::string_view text) {
-  const std::lock_guard lock(format_mutex);
-  (void)format_buffer.try_append(text); // never cut: the area is many times as large as any such text
-  return format_buffer.finish();
-}
-
 // Publishes the text that `build` writes: it gets a place for at most `Longest` characters and returns their end. The
 // text grows where it is to stay, unless the area's end is so near that it might not fit; so `build` must change no
 // character past the end but the next one, where the terminator goes: older texts lie there. Always inlined, since out
@@ -53,8 +46,8 @@ template <std::size_t Longest, class Build> [[gnu::always_inline]] inline const 
   if (char *place = format_buffer.room_for(Longest); place != nullptr) [[likely]] {
     format_buffer.advance_to(build(place));
   } else {
-    char text[Longest];
-    (void)format_buffer.try_append({text, static_cast<std::size_t>(build(text) - text)}); // never cut, as above
+    char text[Longest]; // far less than the area, so that nothing is cut
+    (void)format_buffer.try_append({text, static_cast<std::size_t>(build(text) - text)});
   }
   return format_buffer.finish();
 }
@@ -206,17 +199,9 @@ constexpr unsigned uuid_separated = 0b10101010000;
 using value_list = name_list<std::int32_t>;
 
 const char *find_name(const value_list &names, std::int32_t value) {
-  // Most lists count up from 0, so that a value is its own index.
-  std::size_t index = static_cast<std::uint32_t>(value);
-  if (index >= names.count || names.values[index] != value) {
-    const std::int32_t *end = names.values + names.count;
-    const std::int32_t *found = std::find(names.values, end, value);
-    if (found == end) {
-      return nullptr;
-    }
-    index = static_cast<std::size_t>(found - names.values);
-  }
-  return names.name(index);
+  const std::int32_t *end = names.values + names.count;
+  const std::int32_t *found = std::find(names.values, end, value);
+  return found != end ? names.name(static_cast<std::size_t>(found - names.values)) : nullptr;
 }
 
 template <class Shown> const char *name_or_number(const value_list &names, Shown value) {
@@ -241,7 +226,9 @@ template <class Mask> const char *flags_text(const name_list<Mask> &names, Mask 
     }
   }
   out = put(out, "]");
-  return publish({text, static_cast<std::size_t>(out - text)});
+  const std::lock_guard lock(format_mutex);
+  (void)format_buffer.try_append({text, static_cast<std::size_t>(out - text)}); // never cut either
+  return format_buffer.finish();
 }
 
 template <class Mask, std::size_t Count, std::size_t Characters>

@@ -8,17 +8,11 @@
 
 namespace zel::ravix {
 
-namespace {
-
-constexpr const char *here = "src/ravix_types_str_ring_buffer";
-
-} // namespace
-
 constinit ring_buffer format_buffer;
 constinit std::mutex format_mutex;
 
 void log_too_long() noexcept {
-  log_error({here, "vwrite"}, "String is too long!");
+  log_error({"src/ravix_types_str_ring_buffer", "vwrite"}, "String is too long!");
 }
 
 // `put` stores as much of a piece as fits into a room, the terminator included, and returns the length of all of it, or

@@ -190,16 +190,14 @@ constexpr const channel_width *find_width(uint32_t code) {
   return row != std::end(widths) ? row : nullptr;
 }
 
-bool has_pattern(std::span<const uint16_t> patterns, uint16_t puncture_map) {
-  return std::ranges::find(patterns, puncture_map) != patterns.end();
-}
-
 // Width 0 stands for any width.
 bool is_puncture_pattern(uint16_t puncture_map, uint16_t width) {
-  const auto is = [width](uint16_t code) { return width == RAVIX_CHANNEL_WIDTH_INVALID || width == code; };
-  return (is(RAVIX_CHANNEL_WIDTH_80) && has_pattern(patterns_80, puncture_map)) ||
-         (is(RAVIX_CHANNEL_WIDTH_160) && has_pattern(patterns_160, puncture_map)) ||
-         (is(RAVIX_CHANNEL_WIDTH_320) && has_pattern(patterns_320, puncture_map));
+  const auto has = [=](uint16_t code, std::span<const uint16_t> patterns) {
+    return (width == RAVIX_CHANNEL_WIDTH_INVALID || width == code) &&
+           std::ranges::find(patterns, puncture_map) != patterns.end();
+  };
+  return has(RAVIX_CHANNEL_WIDTH_80, patterns_80) || has(RAVIX_CHANNEL_WIDTH_160, patterns_160) ||
+         has(RAVIX_CHANNEL_WIDTH_320, patterns_320);
 }
 
 // Centre of a 40 MHz channel in 2.4 GHz, 0 if the second channel does not fit in on that side.

@@ -7,7 +7,6 @@
 #include "ravix_types_util.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <initializer_list>
 #include <iterator>
@@ -15,6 +14,7 @@
 #include <string_view>
 
 using zel::ravix::call_site;
+using zel::ravix::decimal;
 using zel::ravix::log_error;
 using zel::ravix::log_invalid_pointer;
 using zel::ravix::radio::channel_14;
@@ -90,17 +90,6 @@ constexpr overhang overhangs[] = {
     {true, 5000, 25000, 8, 5000},
     {false, 5000, 25000, 8, 5000},
     {false, 0, 20000, 7, 10000},
-};
-
-// Decimal digits of a number.
-class decimal {
-public:
-  explicit decimal(int64_t value) : end_(std::to_chars(text_, std::end(text_), value).ptr) {}
-  operator std::string_view() const { return {text_, end_}; } // NOLINT(google-explicit-constructor): a log part
-
-private:
-  char text_[20];
-  char *end_;
 };
 
 // One pass over a channel list. Log lines carry the name of the function that was called.

@@ -159,20 +159,4 @@ void golden_sections::expect(const std::string &name) const {
   expect_golden(name, text.substr(0, text.starts_with('#') ? text.find("--- ") : 0) + collected_);
 }
 
-void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome) {
-  std::istringstream file(expected_file(name).text());
-  std::string all;
-  for (std::string title; std::getline(file, title);) {
-    if (!title.starts_with("===")) {
-      continue; // an outcome, which is told anew
-    }
-    std::string input;
-    for (std::string line; std::getline(file, line) && line != "---";) {
-      input += line + '\n';
-    }
-    all.append(title).append("\n").append(input).append("---\n").append(outcome(input));
-  }
-  expect_golden(name, all);
-}
-
 } // namespace harness

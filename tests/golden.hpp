@@ -30,9 +30,6 @@ std::string logged(captured_log &log);
 // stands in the file, so that a new case is a new line.
 void expect_answers(const std::string &name, const std::function<std::string(const std::string &call)> &answer);
 
-// The same for inputs of several lines: "=== <title>", the input, "---", and what comes of it.
-void expect_outcomes(const std::string &name, const std::function<std::string(const std::string &input)> &outcome);
-
 // The names of tests/data/names.txt with their values, by list.
 std::map<std::string, std::vector<std::pair<std::int64_t, std::string>>> written_names();
 

@@ -107,8 +107,7 @@ template <class Value> formatters::value_type named(const char *what, const char
   MEASURE(anpi)                                                                                                        \
   MEASURE(rcpi)                                                                                                        \
   MEASURE(rsni)                                                                                                        \
-  MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8) MEASURE(bitfield_16) MEASURE(bitfield_32)                    \
-      MEASURE(bitfield_64)
+  MEASURE(timestamp) MEASURE(enabled) MEASURE(bitfield_8) MEASURE(bitfield_16) MEASURE(bitfield_32) MEASURE(bitfield_64)
 const formatters measures = {MEASURES(NAMED)};
 const formatters names = {NAMED(id) NAMED(status) RAVIX_ENUMERATIONS(NAMED)};
 const formatters flags = {RAVIX_FLAG_SETS(NAMED)};

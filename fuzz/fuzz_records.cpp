@@ -6,6 +6,7 @@
 #include "json_tools.hpp"
 #include "record_tools.hpp"
 
+#include <numeric>
 #include <span>
 
 namespace {
@@ -48,7 +49,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   harness::trial trial;
   trial.run(*type, first, second, k, onward);
   fuzz::require(trial.broken.empty(), trial.broken.c_str());
-  if (k > 37) { // not for each: a reader takes twice as long as all the rest
+  // A reader takes twice as long as all the rest: not for each, nor for a kind of input that the search might prefer.
+  if (std::accumulate(data, data + size, 0U) % 16 == 0) {
     check_json(*type, harness::any_sample(*type, first), harness::any_sample(*type, second));
   }
   return 0;

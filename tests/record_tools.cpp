@@ -290,7 +290,11 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
 } // namespace
 
 const std::vector<const record_type *> &record_types() {
-#define ROW_OF(NAME, TYPE, SOURCE) new record_type(row_of<TYPE>(#NAME, #TYPE, "src/" SOURCE)),
+#define ROW_OF(NAME, TYPE, SOURCE)                                                                                     \
+  [] {                                                                                                                 \
+    static const record_type row = row_of<TYPE>(#NAME, #TYPE, "src/" SOURCE);                                          \
+    return &row;                                                                                                       \
+  }(),
 #define RAVIX_COMMON_RECORD(NAME, TYPE, ...) ROW_OF(NAME, TYPE, "ravix_types_common")
 #define RAVIX_RADIO_ENV_RECORD(NAME, TYPE, ...) ROW_OF(NAME, TYPE, "ravix_types_radio_env")
 #define RAVIX_API_REQUEST_RECORD(NAME, TYPE, ...) ROW_OF(NAME, TYPE, "ravix_types_api_request")

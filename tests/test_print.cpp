@@ -269,6 +269,15 @@ TEST(Differences, StandUnderTheirNameIndentedAndEndTheirLastLineAsAsked) {
   });
 }
 
+// Nothing of the one is compared with the other, though their octets may be the same.
+TEST(Differences, OfTwoAlternativesShowThePresentOneWhole) {
+  ravix_cfg_auto_update_rule_t by_opmode{}, by_feature{};
+  by_opmode.type = RAVIX_CFG_AUTO_UPDATE_RULE_ROLE_OPMODE;
+  by_feature.type = RAVIX_CFG_AUTO_UPDATE_RULE_FEATURE;
+  EXPECT_EQ(diff(by_opmode, &by_feature), "type: 1\nauto_update_role_opmode:\n role_opmode: INVALID_MIN\n");
+  EXPECT_EQ(diff(by_feature, &by_opmode), "type: 2\nauto_update_features:\n feature: [ ]\n");
+}
+
 // ---- tables
 
 // What a table shows of each entry, taken from its text: behind "[i]: ", "[HEADING i]:" or ", ".
@@ -327,6 +336,10 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
       }
     }
   });
+  std::uint32_t frequencies[51] = {};
+  ravix_scan_parameter_t parameter = scan_parameter;
+  parameter.frequencies = {51, frequencies};
+  EXPECT_NE(text(parameter).find(" frequencies:\n  -- too many entries --\n ssids:"), std::string::npos);
 }
 
 // Rows of sixteen octets, at every length.

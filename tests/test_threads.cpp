@@ -42,7 +42,7 @@ void busy_sink(void * /*context*/, const char * /*name*/, const char * /*file*/,
   static thread_local int depth = 0;
   ++lines;
   if (++depth == 1) {
-    EXPECT_STRNE(ravix_str_frequency(static_cast<std::uint32_t>(line)), "");
+    EXPECT_NE(ravix_str_frequency(static_cast<std::uint32_t>(line)), nullptr); // all write to one area: not to be read
     EXPECT_EQ(ravix_types_ssid_clone(nullptr), nullptr);
   }
   --depth;

@@ -123,27 +123,26 @@ constexpr uint32_t highest_primary_with_upper_second = 2452000;
 constexpr uint32_t lowest_primary_with_lower_second = 2432000;
 
 // 5 and 6 GHz. Wider channels are fixed blocks of 20 MHz channels; a row is a run of equal blocks, given by the lowest
-// channel of the first and of the last block. The blocks of a run adjoin, those of 320 MHz overlap by half.
+// channel of the first and their number. The blocks of a run adjoin, those of 320 MHz overlap by half.
 struct block_run {
   uint8_t band;
   uint16_t width;
-  uint32_t first, last;
-  uint32_t step;
+  uint32_t first, count;
 };
 constexpr block_run blocks[] = {
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5180000, 5300000, 40000}, // classes 116, 117, 119, 120
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5500000, 5700000, 40000}, // classes 122, 123
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5745000, 5865000, 40000}, // classes 126, 127
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5180000, 5260000, 80000}, // class 128
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5500000, 5660000, 80000},
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5745000, 5825000, 80000},
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5180000, 5180000, 160000}, // class 129
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5500000, 5500000, 160000},
-    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5745000, 5745000, 160000},
-    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_40, 5955000, 7075000, 40000},   // class 132
-    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_80, 5955000, 6995000, 80000},   // class 133
-    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_160, 5955000, 6915000, 160000}, // class 134
-    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_320, 5955000, 6755000, 160000}, // class 137
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5180000, 4}, // classes 116, 117, 119, 120
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5500000, 6}, // classes 122, 123
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_40, 5745000, 4}, // classes 126, 127
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5180000, 2}, // class 128
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5500000, 3},
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_80, 5745000, 2},
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5180000, 1}, // class 129
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5500000, 1},
+    {RAVIX_RADIO_BAND_5GHZ, RAVIX_CHANNEL_WIDTH_160, 5745000, 1},
+    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_40, 5955000, 29}, // class 132
+    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_80, 5955000, 14}, // class 133
+    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_160, 5955000, 7}, // class 134
+    {RAVIX_RADIO_BAND_6GHZ, RAVIX_CHANNEL_WIDTH_320, 5955000, 6}, // class 137
 };
 
 // Patterns in which 20 MHz subchannels may be punctured when a whole channel goes to one transmission (IEEE 802.11be,
@@ -211,18 +210,18 @@ uint32_t center_of_pair(uint32_t primary_freq, bool ext_high) {
 // Centre of the block that a primary channel is part of, 0 if there is none of that width. Of two overlapping blocks
 // `ext_high` takes the upper one.
 uint32_t center_of_block(uint8_t band, uint32_t primary_freq, const channel_width &width, bool ext_high) {
-  const uint32_t extent = width.khz - width_20_khz; // from the lowest to the highest channel of a block
+  const uint32_t step = width.code == RAVIX_CHANNEL_WIDTH_320 ? width.khz / 2 : width.khz;
   const auto *const run = std::ranges::find_if(blocks, [&](const block_run &r) {
-    return r.band == band && r.width == width.code && primary_freq >= r.first && primary_freq <= r.last + extent;
+    return r.band == band && r.width == width.code && primary_freq - r.first < (r.count - 1) * step + width.khz;
   });
   if (run == std::end(blocks)) {
     return 0;
   }
-  uint32_t lowest = run->first + (std::min(primary_freq, run->last) - run->first) / run->step * run->step;
-  if (!ext_high && lowest > run->first && primary_freq <= lowest - run->step + extent) {
-    lowest -= run->step;
+  uint32_t block = std::min((primary_freq - run->first) / step, run->count - 1);
+  if (!ext_high && block > 0 && primary_freq - run->first < (block - 1) * step + width.khz) {
+    --block;
   }
-  return lowest + extent / 2;
+  return run->first + block * step + (width.khz - width_20_khz) / 2;
 }
 
 // Centre of the channel around a primary channel, 0 if there is none of that width.

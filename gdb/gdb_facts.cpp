@@ -4,9 +4,12 @@
 #include "ravix_types_all_fields.hpp"
 #include "ravix_types_util.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <iostream>
 #include <map>
+#include <regex>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -15,75 +18,39 @@ namespace {
 
 using namespace zel::ravix;
 
-// What a meaning shows for a value.
-struct collector {
-  std::string all;
-  void text(std::string_view piece) { all += piece; }
-  void decimal(auto number) { all += std::to_string(number); }
-};
-template <class Meaning> std::string shown(auto value) {
-  collector out;
-  Meaning::print(out, value);
-  return out.all;
-}
-
-// A pattern of Python's format() for what a meaning shows for all values but those that have a text of their own.
-template <class Meaning, class T> std::string pattern(T sample) {
-  std::string text = shown<Meaning>(sample);
-  const std::string number = std::to_string(sample);
-  const auto at = text.find(number);
-  return in_quotes(at == std::string::npos ? text : text.replace(at, number.size(), "{}"));
-}
-
-// The values of type T that have texts of their own.
-template <class Meaning, class T> std::string names_of() {
-  json all("{}");
-  const auto add = [&](auto value) {
-    const auto stored = static_cast<T>(value);
-    all.add(std::to_string(stored), in_quotes(shown<Meaning>(stored)));
-  };
+// How numbers of type T are shown: some by names, the others by a pattern of Python's format(), where `s` and `ms` are
+// the seconds of a time stamp and the rest of them. Flags are shown by the names of those that are set.
+template <class Meaning, class T> std::string facts_of() {
+  constexpr value_kind kind = Meaning::kind;
+  json names("{}");
+  const auto add = [&](auto value) { names.add(std::to_string(value), in_quotes(shown<Meaning>(value))); };
   if constexpr (requires { Meaning::names; }) {
-    for (const auto value : Meaning::names.values) {
-      add(value);
+    const name_list list = Meaning::names;
+    for (std::size_t i = 0; i < list.count; ++i) {
+      names.add(std::to_string(static_cast<T>(list.values[i])), in_quotes(list.name(i)));
     }
   } else if constexpr (Meaning::empty_is_none) {
-    add(Meaning::empty);
+    add(T{Meaning::empty});
   }
   if constexpr (std::is_same_v<Meaning, meaning::channel_frequency>) {
-    for (const std::uint32_t band : {RAVIX_RADIO_BAND_2GHZ, RAVIX_RADIO_BAND_5GHZ, RAVIX_RADIO_BAND_6GHZ}) {
-      for (std::uint32_t channel = 1; channel < 256; ++channel) {
-        const std::uint32_t frequency = ravix_frequency_from_channel_and_band(channel, band);
-        if (ravix_frequency_to_radio_band(frequency) == band && ravix_frequency_to_channel(frequency) == channel) {
-          add(frequency);
-        }
+    for (std::uint32_t frequency = 2412000; frequency <= 7115000; frequency += 1000) {
+      const std::uint32_t channel = ravix_frequency_to_channel(frequency);
+      if (ravix_frequency_from_channel_and_band(channel, ravix_frequency_to_radio_band(frequency)) == frequency) {
+        add(frequency);
       }
     }
-  }
-  return all.text();
-}
-
-// Of values of type T.
-template <class Meaning, class T> std::string facts_of() {
-  json facts("{}");
-  if constexpr (Meaning::kind == value_kind::flags) {
-    json flags("{}");
-    const name_list names = Meaning::names;
-    for (std::size_t i = 0; i < names.count; ++i) {
-      flags.add(names.name(i), std::to_string(names.values[i]));
+  } else if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
+    for (std::uint8_t share = 101; share < RAVIX_MEASURE_INVALID; ++share) {
+      add(share);
     }
-    facts.add("flags", flags.text());
-  } else if constexpr (Meaning::kind == value_kind::bits) {
-    facts.add("bits", std::to_string(8 * sizeof(T)));
-  } else if constexpr (Meaning::kind == value_kind::timestamp) {
-    facts.add("timestamp", std::to_string(Meaning::empty));
-  } else {
-    if constexpr (std::is_base_of_v<meaning::percentage, Meaning>) {
-      facts.add("beyond 100", pattern<Meaning>(T{101}));
-    }
-    facts.add(std::is_same_v<Meaning, meaning::status> ? "errors" : "otherwise", pattern<Meaning>(T{99}));
-    facts.add("names", names_of<Meaning, T>());
   }
-  return facts.text();
+  const std::string rest = kind == value_kind::flags                  ? "flags"
+                           : std::is_same_v<Meaning, meaning::status> ? "error"
+                           : kind == value_kind::timestamp            ? "[{s}.{ms:03}]" // a date depends on clocks
+                           : kind == value_kind::bits
+                               ? "{:0" + std::to_string(8 * sizeof(T)) + "b}"
+                               : std::regex_replace(shown<Meaning>(T{99}), std::regex("99"), "{}");
+  return json("{}").add("names", names.text()).add("otherwise", in_quotes(rest)).text();
 }
 
 // Of a field: null if the debugger's own text is as good, or if octets are told by their length.
@@ -91,12 +58,9 @@ template <class Kind> std::string field_facts(const Kind & /*field*/) {
   if constexpr (requires { typename Kind::shown_as_secret; }) {
     return in_quotes("[SECRET]");
   } else if constexpr (requires {
-                         requires std::is_integral_v<typename Kind::value>;
-                         Kind::meaning::kind;
+                         requires std::is_integral_v<typename Kind::value> && Kind::meaning::kind != value_kind::octets;
                        }) {
-    if constexpr (Kind::meaning::kind != value_kind::octets) {
-      return facts_of<typename Kind::meaning, typename Kind::value>();
-    }
+    return facts_of<typename Kind::meaning, typename Kind::value>();
   }
   return "null";
 }
@@ -117,19 +81,16 @@ void add_alternatives(json & /*all*/, const auto & /*no alternatives*/) {}
 } // namespace
 
 int main() {
-  json texts("[]", ",\n  ");
-  json records("{}", ",\n  ");
+  json texts("[]", ",\n  "), records("{}", ",\n  ");
   std::map<std::string, std::size_t> numbers; // equal texts stand once
   for_each_record([&]<class R>(std::string_view type) {
-    json fields("{}");
-    json alternatives("{}");
+    json fields("{}"), alternatives("{}");
     for_each_field<R>([&](const auto &field) {
       const std::string facts = field_facts(field);
-      const auto [known, is_new] = numbers.try_emplace(facts, numbers.size());
-      if (is_new) {
+      if (numbers.try_emplace(facts, numbers.size()).second) {
         texts.add(facts);
       }
-      fields.add(field.name, std::to_string(known->second));
+      fields.add(field.name, std::to_string(numbers[facts]));
       add_alternatives(alternatives, field);
     });
     const std::string name(type.substr(0, type.size() - 2)); // without "_t"

@@ -10,18 +10,16 @@ its field lists. "print/r" shows the plain structure, secrets included.
 
 import json
 import os
+import pathlib
 import types
 
 import gdb
 import gdb.printing
 
-with open(os.path.join(os.path.dirname(os.path.realpath(__file__)), "ravix_types_facts.json"), encoding="utf-8") as file:
-    FACTS = json.load(file)
+FACTS = json.loads(pathlib.Path(__file__).resolve().with_name("ravix_types_facts.json").read_text("utf-8"))
 RECORDS = FACTS["records"]
 for facts in RECORDS.values():
     facts["fields"] = {name: FACTS["texts"][number] for name, number in facts["fields"].items()}
-
-NULL = "<nullptr>"
 
 
 def bare(value_type):
@@ -31,69 +29,56 @@ def bare(value_type):
 
 def octets(value, count=None):
     """The first octets of an array, or all of them."""
-    return [int(value[i]) & 0xFF for i in range(bare(value.type).range()[1] + 1 if count is None else count)]
+    return bytes(int(value[i]) & 0xFF for i in range(bare(value.type).range()[1] + 1 if count is None else count))
 
 
 def number_text(fact, number):
     """What the library shows for a number."""
-    if "flags" in fact:
-        number &= (1 << 64) - 1
-        unnamed = number & ~sum(fact["flags"].values())
-        shown = "".join(name + " " for name, flag in fact["flags"].items() if number & flag)
+    names, otherwise = fact["names"], fact["otherwise"]
+    if otherwise == "flags":
+        shown = "".join(name + " " for flag, name in names.items() if number & int(flag))
+        unnamed = number & ((1 << 64) - 1) & ~sum(map(int, names))
         return f"[ {shown}]" + (f" and {unnamed:#x}" if unnamed else "")
-    if "bits" in fact:
-        return f"{number & (1 << fact['bits']) - 1:0{fact['bits']}b}"
-    if "timestamp" in fact:  # the date depends on the clocks of the process
-        return "never" if number == fact["timestamp"] else f"[{number // 1000}.{number % 1000:03}]"
-    if str(number) in fact["names"]:
-        return fact["names"][str(number)]
-    if "errors" in fact:  # a negative errno value
+    if str(number) in names:
+        return names[str(number)] or "never"  # a log shows nothing
+    if otherwise == "error":  # a negative errno value
         return os.strerror(-number)
-    return fact["beyond 100" if number > 100 and "beyond 100" in fact else "otherwise"].format(number)
+    return otherwise.format(number, s=number // 1000, ms=number % 1000)
 
 
 def octets_text(value):
     """A MAC address or UUID, told by its length."""
-    text = bytes(octets(value)).hex().upper()
+    text = octets(value).hex().upper()
     ends = (2, 4, 6, 8, 10, 12) if len(text) == 12 else (8, 12, 16, 20, 32)
     return (":" if len(text) == 12 else "-").join(text[a:b] for a, b in zip((0, *ends), ends))
 
 
 def channel_info_text(value):
     """primary/centre/width in MHz/puncture map; the range of channels is left out."""
+    primary, center = int(value["primary_freq"]) // 1000, int(value["center_freq"]) // 1000
     width = number_text(RECORDS["ravix_channel_info"]["fields"]["channel_width"], int(value["channel_width"]))
-    return "{:4}/{:4}/{:>3}/{:04x}".format(
-        int(value["primary_freq"]) // 1000,
-        int(value["center_freq"]) // 1000,
-        width.split()[0] if width.endswith("MHz") else "INV",
-        int(value["puncture_map"]),
-    )
+    mhz = width.split()[0] if width.endswith("MHz") else "INV"
+    return f"{primary:4}/{center:4}/{mhz:>3}/{int(value['puncture_map']):04x}"
 
 
 def ip_addr_text(value):
-    version = int(value["version"])
-    octet = bytes(octets(value["addr"]))
-    if version == 1:
-        return ".".join(str(o) for o in octet[:4])
+    octet, version = octets(value["addr"]), int(value["version"])
     if version == 2:
-        return ":".join(f"{octet[i] << 8 | octet[i + 1]:x}" for i in range(0, 16, 2))
-    return f"<Invalid IP version: {version}>"
+        return ":".join(f"{a << 8 | b:x}" for a, b in zip(octet[::2], octet[1::2]))
+    return ".".join(str(o) for o in octet[:4]) if version == 1 else f"<Invalid IP version: {version}>"
 
 
 def ssid_text(value):
     shown = octets(value["ssid"], min(int(value["len"]), 32))
-    printable = [0x20 <= o < 0x7F for o in shown]
-    text = "'" + "".join(chr(o) if p else " " for o, p in zip(shown, printable)) + "'"
-    dump = "" if all(printable) else "/[ " + "".join(f"{o:02x} " for o in shown) + "]"
-    return f"{text}{dump} (len={int(value['len'])})"
+    text = "".join(chr(o) if 0x20 <= o < 0x7F else "\n" for o in shown)
+    dump = f"/[ {shown.hex(' ')} ]" if "\n" in text else ""
+    return "'" + text.replace("\n", " ") + f"'{dump} (len={int(value['len'])})"
 
 
 def tlv_text(value):
     length = int(value["len"])
-    head = f"type {int(value['type'])}, length {length}"
-    if length == 0:
-        return head
-    return f"{head}: {bytes(octets(value['value'], length)).hex(' ') if int(value['value']) else NULL}"
+    shown = octets(value["value"], length).hex(" ") if int(value["value"]) else "<nullptr>"
+    return f"type {int(value['type'])}, length {length}" + (f": {shown}" if length else "")
 
 
 VALUES = {
@@ -114,11 +99,11 @@ def field_value(fact, value):
     if fact:
         return ", ".join(number_text(fact, number) for number in (octets(value) if is_array else [int(value)]))
     if is_array and bare(kind.target()).name == "char":
-        return '"' + bytes(octets(value)).split(b"\0")[0].decode("utf-8", "backslashreplace") + '"'
+        return '"' + octets(value).split(b"\0")[0].decode("utf-8", "backslashreplace") + '"'
     if is_array:
         return octets_text(value)
     if is_pointer and not int(value):
-        return NULL
+        return "<nullptr>"
     return value.dereference() if is_pointer and bare(kind.target()).tag in RECORDS else value
 
 
@@ -126,10 +111,8 @@ class Record:
     """A record by its field list; a table as its elements, after whatever else it holds."""
 
     def __init__(self, value):
-        self.value = value
-        self.struct = bare(value.type)
-        facts = RECORDS.get(self.struct.tag, {"fields": {}, "alternatives": {}})
-        self.facts, self.alternatives = facts["fields"], facts["alternatives"]
+        self.value, self.struct = value, bare(value.type)
+        self.facts = RECORDS.get(self.struct.tag, {"fields": {}, "alternatives": {}})
         self.is_table = {"count", "data"} <= {field.name for field in self.struct.fields()}
 
     def to_string(self):
@@ -141,34 +124,26 @@ class Record:
 
     def members(self):
         """The names of the fields, of two alternatives only the one that there is."""
-        for field in self.struct.fields():
-            if field.name:
-                yield field.name
-            else:
-                for tag, names in self.alternatives.items():
-                    if str(int(self.value[tag])) in names:
-                        yield names[str(int(self.value[tag]))]
+        chosen = (names.get(str(int(self.value[tag]))) for tag, names in self.facts["alternatives"].items())
+        return filter(None, (field.name or next(chosen) for field in self.struct.fields()))
 
     def children(self):
         for name in self.members():
             if not (self.is_table and name in ("count", "data")):
-                yield name, field_value(self.facts.get(name), self.value[name])
+                yield name, field_value(self.facts["fields"].get(name), self.value[name])
         if self.is_table and int(self.value["data"]):
             for i in range(int(self.value["count"])):
-                yield f"[{i}]", field_value(self.facts.get("data"), self.value["data"][i])
+                yield f"[{i}]", field_value(self.facts["fields"].get("data"), self.value["data"][i])
 
 
 def ravix_types(value):
     """The printer of a value by the name of its structure, or None."""
     tag = bare(value.type).tag or ""
-    if str(value.type) in ("ravix_mac_t", "const ravix_mac_t"):
-        return types.SimpleNamespace(to_string=lambda: octets_text(value))
-    if tag in VALUES:
-        return types.SimpleNamespace(to_string=lambda: VALUES[tag](value))
-    if not tag.startswith("ravix_"):
-        return None
-    record = Record(value)
-    return record if tag in RECORDS or record.is_table else None
+    text = octets_text if str(value.type) in ("ravix_mac_t", "const ravix_mac_t") else VALUES.get(tag)
+    if text:
+        return types.SimpleNamespace(to_string=lambda: text(value))
+    record = Record(value) if tag.startswith("ravix_") else None
+    return record if record and (tag in RECORDS or record.is_table) else None
 
 
 gdb.printing.register_pretty_printer(None, ravix_types)

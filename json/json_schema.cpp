@@ -14,12 +14,14 @@
 #include <iostream>
 #include <limits>
 #include <map>
+#include <regex>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -171,17 +173,8 @@ template <class Meaning> std::string named() {
 
 // The octets of an address, by what the formatter shows for the highest.
 template <class Meaning> std::string pattern() {
-  struct {
-    std::string all;
-    void text(std::string_view piece) { all += piece; }
-  } shown;
-  constexpr std::uint8_t highest[16] = {255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255};
-  Meaning::print(shown, &highest[0]);
-  std::string out = "^";
-  for (const char character : shown.all) {
-    out += character == 'F' ? "[0-9A-F]" : std::string(1, character);
-  }
-  return in_quotes(out + '$');
+  const std::vector<std::uint8_t> highest(16, 255);
+  return in_quotes('^' + std::regex_replace(shown<Meaning>(highest.data()), std::regex("F"), "[0-9A-F]") + '$');
 }
 
 // The range of a number. A lowest or highest value that stands for none does not count.

@@ -32,3 +32,15 @@ private:
   std::string text_, separator_;
   char end_;
 };
+
+// What a meaning shows for a value.
+struct shown_text {
+  std::string all;
+  void text(std::string_view piece) { all += piece; }
+  void decimal(auto number) { all += std::to_string(number); }
+};
+template <class Meaning> std::string shown(auto value) {
+  shown_text out;
+  Meaning::print(out, value);
+  return out.all;
+}

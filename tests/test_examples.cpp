@@ -6,16 +6,13 @@
 
 #include "ravix_types_enums.h"
 #include "ravix_types_str_convert.h"
-#include "ravix_types_util.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <fstream>
 #include <regex>
-#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -81,7 +78,6 @@ TEST(Problems, AreKeptUpToAHundredOfAKindAndErrorsShownBeforeRemarks) {
   text::problems problems;
   for (std::size_t line = 1; line <= 150; ++line)
     problems.remark(line, "doubt");
-  EXPECT_FALSE(problems.has_errors());
   problems.error(151, "fault");
   EXPECT_EQ(problems.list().size(), 101U);
   testing::internal::CaptureStderr();
@@ -95,7 +91,6 @@ TEST(Problems, AreKeptUpToAHundredOfAKindAndErrorsShownBeforeRemarks) {
 std::string networks(const iw::scan &scan) {
   std::string out;
   for (const auto &network : scan.networks) {
-    EXPECT_TRUE(ravix_channel_info_is_valid(&network.channel_info));
     for (const char *text : {ravix_str_mac(network.bssid), ravix_str_ssid(&network.ssid, true),
                              ravix_str_channel_info(&network.channel_info), ravix_str_power(network.rssi)})
       out += std::string(text) + ' ';
@@ -144,20 +139,6 @@ TEST(IwScan, TextsAreReadAsRecorded) {
     return answer_of(replaced(replaced(read, "02:00:00:00:00:01 'net' (len=3)", "net"), other, "other\n") +
                      told(problems));
   });
-}
-
-TEST(IwScan, EveryCutOfTheSampleIsReadAsFarAsItGoes) {
-  std::ostringstream sample;
-  sample << std::ifstream(RAVIX_EXAMPLE_DATA "/iw_scan_sample.txt").rdbuf();
-  const std::string whole = sample.str();
-  text::problems problems;
-  const std::string all = networks(iw::read_scan(whole, problems));
-  EXPECT_EQ(std::ranges::count(all, '\n'), 15);
-  EXPECT_EQ(told(problems), "");
-  for (std::size_t size = 0; size < whole.size(); size += 97) {
-    const std::string read = networks(iw::read_scan(std::string_view(whole).substr(0, size), problems));
-    ASSERT_TRUE(all.starts_with(read.substr(0, read.rfind('\n', read.size() - 2) + 1))) << size; // all but the last
-  }
 }
 
 TEST(IwPhy, TextsAreReadAsRecorded) {

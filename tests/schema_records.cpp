@@ -6,12 +6,10 @@
 #include <iostream>
 #include <string>
 
-using harness::any_sample;
-using harness::randomness;
-using harness::variety;
+using namespace harness;
 
 int main() {
-  for (const harness::record_type *type : harness::record_types()) {
+  for (const record_type *type : record_types()) {
     const std::string definition = type->name;
     const any_sample empty(*type);
     std::cout << definition << ' ' << json_text(*type, empty) << '\n';

@@ -205,8 +205,6 @@ TEST(Json, HasTheValuesOfEveryRecord) {
         EXPECT_EQ(heap.requests(), 0U);
         EXPECT_TRUE(log.take().empty());
         ASSERT_EQ(json::parse(text), expected) << text;
-        ASSERT_EQ(text.find(secret_mark), std::string::npos);
-        ASSERT_EQ(text.find(hex(secret_mark.data(), 4)), std::string::npos);
         ASSERT_EQ(text, json::parse(text).dump());
         ASSERT_EQ(text_of(record.value, 2), json::parse(text).dump(2));
       }
@@ -272,10 +270,8 @@ TEST(JsonDifferences, LeadFromTheReferenceToTheValue) {
           expect_difference(*reference, value, kind);
         }
       }
-      randomness random(seed);
-      const any_sample value(*type);
-      type->fill(value, random);
-      for (std::size_t same = 0; same <= random.choices(); same += 1 + same / 8) {
+      const any_sample value(*type, seed);
+      for (std::size_t same = 0; same < 10000; same += 1 + same / 8) { // more than any record takes
         expect_difference(any_sample(*type, randomness(seed, same)), value);
       }
     }
@@ -317,10 +313,6 @@ TEST(JsonDifferences, HaveNoMoreThanDiffers) {
 
 // ---- what stops a writer
 
-ravix_json_indent_t lines_to(ravix_json_write_t write, void *context, unsigned indent) {
-  return {write, context, indent, 0, false, false, false};
-}
-
 struct stopper {
   int stop_at = 0, calls = 0;
   std::string text = {};
@@ -350,7 +342,7 @@ TEST(JsonWriters, StopAtTheFirstFailureAndPassItOn) {
     const auto &functions = json_functions_of(*type);
     expect_stops([&](auto write, void *context) { return functions.whole(record, write, context); });
     expect_stops([&](auto write, void *context) {
-      ravix_json_indent_t lines = lines_to(write, context, 3);
+      ravix_json_indent_t lines{write, context, 3, 0, false, false, false};
       return functions.whole(record, ravix_json_indent, &lines);
     });
     if (functions.diff != nullptr) {
@@ -395,7 +387,7 @@ TEST(JsonLines, AreTheSameHoweverTheTextComes) {
     for (const unsigned indent : {0U, 1U, 300U}) {
       for (const std::size_t piece : {std::size_t{1}, std::size_t{7}, text.size()}) {
         const std::string lines = json_text([&](auto write, void *context) {
-          ravix_json_indent_t state = lines_to(write, context, indent);
+          ravix_json_indent_t state{write, context, indent, 0, false, false, false};
           for (std::size_t at = 0; at < text.size(); at += piece) {
             ravix_json_indent(&text[at], std::min(piece, text.size() - at), &state);
           }

@@ -49,7 +49,7 @@ TEST(Handles, OwnCopyAndListWhatTheyHold) {
   EXPECT_EQ(heap.live(), before);
 }
 
-TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
+TEST(CommonValues, CopiesOfTextsEndAndHaveNothingBehindTheirEnd) {
   int texts = 0;
   harness::for_all_records([&]<class R>() {
     zel::ravix::for_each_field<R>([&](const auto &field) {
@@ -78,14 +78,10 @@ TEST(CommonValues, CopiesOfBoundedTextsAlwaysEnd) {
     });
   });
   EXPECT_GE(texts, 8);
-}
-
-TEST(CommonValues, CopiesOfNamesHaveNothingBehindTheirEnd) {
-  const ravix_ssid_t src{2, "guest"};
+  const ravix_ssid_t longer{5, "guests"}, trimmed{5, "guest"};
   harness::sample<ravix_ssid_t> dest(1);
-  EXPECT_EQ(ravix_types_ssid_copy(&src, &dest.value), 0);
-  const std::string octets(reinterpret_cast<const char *>(&dest.value), sizeof src);
-  EXPECT_EQ(octets, std::string("\2gu").append(sizeof src - 3, '\0'));
+  EXPECT_EQ(ravix_types_ssid_copy(&longer, &dest.value), 0);
+  EXPECT_EQ(std::memcmp(&dest.value, &trimmed, sizeof trimmed), 0);
 }
 
 // The golden file has records by their octets.
@@ -136,10 +132,8 @@ TEST(CommonTables, FindWhatIsEqualToAnEntry) {
     if (type->contains_entry == nullptr || type->compares_references) {
       continue;
     }
-    harness::randomness random(1);
-    const harness::any_sample table(*type);
-    type->fill(table, random);
-    for (std::size_t same = 0; same <= random.choices(); ++same) {
+    const harness::any_sample table(*type, 1);
+    for (std::size_t same = 0; same < 500; ++same) {
       const harness::any_sample other(*type, harness::randomness(1, same));
       for (std::uint32_t i = 0; i < *type->count(other); ++i) {
         const bool is_there = std::ranges::any_of(std::views::iota(0U, *type->count(table)), [&](std::uint32_t k) {
@@ -194,15 +188,13 @@ TEST(Failures, EveryLevelLogsItsOwnLineInnermostFirst) {
   add("no memory for an array", 2, [] { return ravix_types_ssid_table_create(1) != nullptr; });
   add_copy("an element", 2, element_table);
   add_copy("a list of a finished scan", 2, scan_finished);
-  add_copy("air times", 1, radio_airtime);
   add_copy("the text of a client", 2, remote_client_table);
   add_copy("a text of the settings", 1, device_settings);
   add_copy("a text of a table of the settings", 3, device_settings);
   add_copy("the servers of a role", 1, home_network);
   add_copy("the configuration of a role", 3, home_network);
   add_copy("a table of the configuration of a role", 4, home_network);
-  add_copy("the second record of a state", 3, home_state);
-  add_copy("a table of that record", 4, home_state);
+  add_copy("a table of a record of a state", 4, home_state);
   golden.expect("common_failures");
   std::set<std::string> sources; // of all requests
   for (const auto &[source, line] : heap.requested()) {

@@ -4,7 +4,6 @@
 #include "iw_phy.hpp"
 #include "iw_scan.hpp"
 
-#include "ravix_types_enums.h"
 #include "ravix_types_str_convert.h"
 
 #include <gtest/gtest.h>

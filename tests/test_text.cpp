@@ -221,17 +221,23 @@ TEST(Area, EightThreads) {
       [](std::uint32_t n) { return ravix_str_sta_state(100 + n); },
       [](std::uint32_t n) { return ravix_str_bitfield_32(n); },
       [](std::uint32_t n) { return ravix_str_timestamp(n); }};
+  const auto make = [&](std::uint32_t n, auto &texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+      texts[i] = formats[i % std::size(formats)](n);
+    }
+  };
+  constexpr std::size_t most = 3 * std::size(formats);
   std::barrier<> together(threads);
   std::atomic<int> wrong = 0;
   std::vector<std::thread> workers;
   for (std::uint32_t n = 1234567890; workers.size() < threads; n /= 10) {
-    std::array<std::string, std::size(formats)> alone;
-    std::ranges::transform(formats, alone.begin(), [n](auto format) { return format(n); });
+    std::array<std::string, most> alone;
+    make(n, alone);
     workers.emplace_back([&, n, alone] {
       for (long round = 0; round < rounds; ++round) {
-        std::array<const char *, std::size(formats)> texts;
+        std::array<const char *, most> texts;
         together.arrive_and_wait();
-        std::ranges::transform(formats, texts.begin(), [n](auto format) { return format(n); });
+        make(n, texts);
         together.arrive_and_wait();
         wrong += std::ranges::equal(alone, texts) ? 0 : 1;
         together.arrive_and_wait();

@@ -11,7 +11,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <ranges>
 #include <set>
 #include <sstream>
 #include <string>
@@ -136,9 +135,10 @@ TEST(CommonTables, FindWhatIsEqualToAnEntry) {
     for (std::size_t same = 0; same < 500; ++same) {
       const harness::any_sample other(*type, harness::randomness(1, same));
       for (std::uint32_t i = 0; i < *type->count(other); ++i) {
-        const bool is_there = std::ranges::any_of(std::views::iota(0U, *type->count(table)), [&](std::uint32_t k) {
-          return type->order_elements(type->at(table, k), type->at(other, i), false) == 0;
-        });
+        bool is_there = false;
+        for (std::uint32_t k = 0; k < *type->count(table); ++k) {
+          is_there = is_there || type->order_elements(type->at(table, k), type->at(other, i), false) == 0;
+        }
         EXPECT_EQ(type->contains_entry(table, type->at(other, i)), is_there) << type->name << ", " << same;
       }
     }

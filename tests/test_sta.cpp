@@ -2,8 +2,7 @@
 #include "golden.hpp"
 #include "harness.hpp"
 
-#include "ravix_types_sta.h"
-#include "ravix_types_steering.h"
+#include "ravix_types_handles.hpp"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +30,6 @@ template <class T> std::string words(const T &list) {
 std::string words(const ravix_station_history_t &history) {
   return words(history.table) + ", used " + std::to_string(history.used) + ", next " + std::to_string(history.next);
 }
-
 std::string words(const ravix_ap_channel_report_t &report) {
   return words(report.channels, std::max(report.length, std::uint8_t{1}) - std::size_t{1}) + ", length " +
          std::to_string(report.length) + ", class " + std::to_string(report.operating_class);
@@ -43,52 +41,45 @@ TEST(Steering, ListsAreMadeFilledAndReleased) {
   ravix_ap_channel_report_table_t *channels = nullptr;
   ravix_beacon_report_table_t *beacons = nullptr;
   ravix_station_history_t *history = nullptr;
-  ravix_ap_channel_report_t channel_report{};
-  ravix_ap_channel_report_t *report = &channel_report, *no_report = nullptr;
+  ravix_ap_channel_report_t report{};
   harness::expect_answers("steering_lists", [&](const std::string &call) {
     std::istringstream in(call);
     std::string name, verb, ignored;
     unsigned count = 0;
     std::size_t failing = 0;
     in >> name >> verb >> count >> ignored >> failing;
-    const auto use = [&](auto *&list, auto create, auto init, auto clear, auto free) {
-      int code = 0;
-      if (verb == "init") {
-        code = init(list, count);
-      } else if (verb == "clear") {
+    heap.fail_only(failing);
+    const auto use = [&](auto *list, auto init, auto clear) {
+      const int code = verb == "init" ? init(list, count) : 0;
+      if (verb == "clear") {
         clear(list);
-      } else {
-        free(list);
-        list = verb == "create" ? create(count) : nullptr;
-        EXPECT_EQ(heap.size_of(list), list != nullptr ? sizeof *list : 0);
       }
       return std::to_string(code) + ": " + (list == nullptr ? "none" : words(*list));
     };
-    const auto no = [](auto...) { return 0; }; // there is no such operation
-    const auto use_report = [&](ravix_ap_channel_report_t *&list) {
-      return use(
-          list, [](unsigned) { return nullptr; }, ravix_types_ap_channel_report_init,
-          ravix_types_ap_channel_report_clear, no);
+    const auto make = [&]<class T>(T *&list, auto init, auto clear) {
+      if (verb == "free" || verb == "create") {
+        ravix::operations<T>::free(list);
+        list = verb == "create" ? ravix::operations<T>::create(count) : nullptr;
+        EXPECT_EQ(heap.size_of(list), list != nullptr ? sizeof *list : 0);
+      }
+      return use(list, init, clear);
     };
-    heap.fail_only(failing);
-    channel_report.operating_class = 115; // until the report is filled or cleared
+    const auto no = [](auto...) { return 0; }; // there is no such operation
+    report.operating_class = 115;              // until the report is filled or cleared
     return name == "candidates"
-               ? use(candidates, ravix_types_btm_candidate_table_create, ravix_types_btm_candidate_table_init,
-                     ravix_types_btm_candidate_table_clear, ravix_types_btm_candidate_table_free)
+               ? make(candidates, ravix_types_btm_candidate_table_init, ravix_types_btm_candidate_table_clear)
            : name == "channels"
-               ? use(channels, ravix_types_ap_channel_report_table_create, ravix_types_ap_channel_report_table_init,
-                     ravix_types_ap_channel_report_table_clear, ravix_types_ap_channel_report_table_free)
-           : name == "beacons" ? use(beacons, ravix_types_beacon_report_table_create, no,
-                                     ravix_types_beacon_report_table_clear, ravix_types_beacon_report_table_free)
-           : name == "history"
-               ? use(history, ravix_types_station_history_create, no, no, ravix_types_station_history_free)
-               : use_report(name == "report" ? report : no_report);
+               ? make(channels, ravix_types_ap_channel_report_table_init, ravix_types_ap_channel_report_table_clear)
+           : name == "beacons" ? make(beacons, no, ravix_types_beacon_report_table_clear)
+           : name == "history" ? make(history, no, no)
+                               : use(name == "report" ? &report : nullptr, ravix_types_ap_channel_report_init,
+                                     ravix_types_ap_channel_report_clear);
   });
   EXPECT_EQ(heap.live(), 0U);
 }
 
 TEST(Steering, ARequestGivesUpItsListsAndKeepsItsPlainValues) {
-  harness::heap heap;
+  const harness::heap heap;
   ravix_beacon_report_rrm_req_params_t request;
   std::memset(&request, 0x5A, sizeof request);
   request.request_count = request.ap_channel_reports.count = request.subelement_count = 0;
@@ -96,16 +87,15 @@ TEST(Steering, ARequestGivesUpItsListsAndKeepsItsPlainValues) {
   request.ap_channel_reports.data = nullptr;
   request.subelements = nullptr;
   const std::string cleared = octets_of(&request);
-  const auto make = [](auto &count, auto *&array, std::size_t size) {
-    count = static_cast<std::uint8_t>(size);
+  const auto make = [](auto &count, auto *&array, std::uint8_t size) {
+    count = size;
     array = static_cast<std::remove_reference_t<decltype(array)>>(slab_dcalloc(size, sizeof *array, "tests", __LINE__));
   };
   make(request.request_count, request.request_ids, 3);
   make(request.subelement_count, request.subelements, 2);
   make(request.subelements[1].len, request.subelements[1].octets, 6);
-  ASSERT_EQ(ravix_types_ap_channel_report_table_init(&request.ap_channel_reports, 2), 0);
+  make(request.ap_channel_reports.count, request.ap_channel_reports.data, 2);
   ASSERT_EQ(ravix_types_ap_channel_report_init(&request.ap_channel_reports.data[1], 4), 0);
-  EXPECT_EQ(heap.live(), 5U);
   for (int times = 0; times < 2; ++times) {
     ravix_types_beacon_report_rrm_req_params_clear(&request);
     EXPECT_EQ(octets_of(&request), cleared);

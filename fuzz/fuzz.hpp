@@ -25,25 +25,12 @@ inline void require(bool holds, const char *invariant) {
   }
 }
 
-// Counts every log line while it lives, of one thread.
-class counted_log {
-public:
-  counted_log() { clog_host_set_sink(count, this); }
-  ~counted_log() { clog_host_set_sink(nullptr, nullptr); }
-  counted_log(const counted_log &) = delete;
-  counted_log &operator=(const counted_log &) = delete;
-
-  // How many have been written since the last call.
-  std::size_t take() { return std::exchange(lines_, 0); }
-
-private:
-  static void count(void *context, const char * /*name*/, const char * /*file*/, const char * /*function*/,
-                    int /*line*/, const char * /*text*/) {
-    ++static_cast<counted_log *>(context)->lines_;
-  }
-
-  std::size_t lines_ = 0;
-};
+// Every log line is counted, until somebody starts anew.
+inline std::size_t lines_logged = 0;
+inline const bool is_counting = [] {
+  clog_host_set_sink([](auto...) { ++lines_logged; }, nullptr);
+  return true;
+}();
 
 // What a reader of a text says about it.
 inline void check_problems(const text::problems &problems, const std::string &text, bool must_have_errors) {

@@ -6,12 +6,10 @@
 // - What is set aside and what remains are together the band; the list of what remains is not refused for a frequency.
 // - A text without a band is told, each problem names a line of the text, its message has no control characters, and
 //   there are no more than two hundred.
+#include "channel_judge.hpp"
 #include "fuzz.hpp"
 
 #include "iw_phy.hpp"
-
-#include "ravix_types_util.h"
-#include "ravix_types_validation.h"
 
 using fuzz::require;
 
@@ -21,18 +19,11 @@ void check_set_aside(iw::phy_band band) {
   const auto size = band.channels.size();
   const auto others = iw::set_aside(band);
   require(size == band.channels.size() + others.size(), "no channel is lost");
-  const auto list = iw::make_channel_list(band);
-  if (!list || list->count == 0) {
-    return;
+  std::vector<std::string> violated;
+  judge::is_accepted(iw::make_channel_list(band).get(), violated);
+  for (const std::string rule : {"INVALID_FREQ", "RADIO_MISMATCH", "DOUBLE_FREQUENCY", "INVALID_ORDER"}) {
+    require(std::ranges::count(violated, rule) == 0, "what remains is ascending and of the band");
   }
-  ravix_string_table_t violations{};
-  ravix_validate_channel_list(list.get(), &violations);
-  for (uint32_t i = 0; i < violations.count; ++i) {
-    const std::string rule = violations.data[i];
-    require(rule != "INVALID_FREQ" && rule != "RADIO_MISMATCH" && rule != "DOUBLE_FREQUENCY" && rule != "INVALID_ORDER",
-            "what remains is ascending and of the band");
-  }
-  ravix_types_string_table_clear(&violations);
 }
 
 } // namespace
@@ -44,7 +35,6 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   for (const auto &radio : iw::read_phys(text, problems)) {
     for (const auto &band : radio.bands) {
       has_band = true;
-      const fuzz::counted_log log;
       const auto list = iw::make_channel_list(band);
       require(list && !band.channels.empty() && list->count <= band.channels.size(), "a band has channels");
       for (uint32_t i = 0; i < list->count; ++i) {

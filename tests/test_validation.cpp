@@ -15,6 +15,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -118,6 +119,44 @@ TEST(ChannelList, IsJudgedAsWritten) {
     const std::string names = violated(spelled(text));
     return names.empty() ? "accepted" : "refused: " + names;
   });
+}
+
+// The channels of its band, of which those of the channel are in use. Channel 14 stands in lists of its own.
+channels list_of(const judge::info &channel) {
+  channels list;
+  const uint32_t reach = judge::widths.at(channel.channel_width).khz / 2, lower_edge = channel.center_freq - reach;
+  for (const uint32_t frequency : judge::widths.at(RAVIX_CHANNEL_WIDTH_20).centers) {
+    entry e{frequency, 20, frequency < 2500000 ? 0x03U : 0x37U, 0, 0};
+    if (frequency == channel.primary_freq)
+      e.state = RAVIX_CHANNEL_STATE_ACTIVE | RAVIX_CHANNEL_STATE_PRI_CHAN;
+    else if (frequency >= lower_edge && frequency <= channel.center_freq + reach)
+      e.state = (channel.puncture_map >> (frequency - lower_edge) / 20000 & 1) != 0 ? RAVIX_CHANNEL_STATE_PUNCTURED
+                                                                                    : RAVIX_CHANNEL_STATE_ACTIVE;
+    if (ravix_frequency_to_radio_band(frequency) == ravix_frequency_to_radio_band(channel.primary_freq) &&
+        frequency != 2484000)
+      list.push_back(e);
+  }
+  return list;
+}
+
+TEST(ChannelList, OfEveryChannelIsAccepted) {
+  const harness::captured_log log;
+  std::set<std::tuple<uint32_t, uint32_t, uint16_t, uint16_t>> all;
+  for (const auto &[width, of] : judge::widths) {
+    judge::numbers maps = of.patterns;
+    maps.push_back(0);
+    for (const uint32_t primary : judge::widths.at(RAVIX_CHANNEL_WIDTH_20).centers) {
+      for (const uint32_t map : maps) {
+        for (const bool ext_high : {false, true})
+          all.insert(judge::fields(judge::channel(primary, width, ext_high, static_cast<uint16_t>(map))));
+      }
+    }
+  }
+  for (const auto &[primary, center, width, map] : all) {
+    if (primary != 0 && primary != 2484000) {
+      ASSERT_EQ(violated(list_of({primary, center, width, map})), "") << primary << ' ' << center << ' ' << map;
+    }
+  }
 }
 
 TEST(ErrorTable, HoldsTheLastListsNamesUnlessThatIsEmpty) {

@@ -83,28 +83,18 @@ rewriter &rewrites = *new rewriter; // owned by the test framework
 
 void expect_golden(const std::string &name, std::string_view text) {
   const expected_file file(name);
-  const std::string expected = file.text();
   const bool is_update = file.is_recorded && is_set("RAVIX_UPDATE_GOLDEN", "1");
   if (is_update && is_set("CI")) {
     ADD_FAILURE() << "RAVIX_UPDATE_GOLDEN is refused where CI is set: there is nobody who reads what changes";
-  }
-  if (expected == text) {
-    return;
-  }
-  if (is_update && !is_set("CI")) {
+  } else if (is_update && file.text() != text) {
     rewrites.texts[file.path] = text;
-    return;
+  } else if (file.text() != text) {
+    const auto expected = lines_of(file.text() + "<end>"), got = lines_of(std::string(text) + "<end>");
+    const auto [wanted, shown] = std::ranges::mismatch(expected, got);
+    ADD_FAILURE() << file.path.string() << ":" << wanted - expected.begin() + 1 << ": expected "
+                  << testing::PrintToString(*wanted) << "\n  but got " << testing::PrintToString(*shown)
+                  << (file.is_recorded ? "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)" : "\n(written by hand)");
   }
-  const auto same = std::ranges::mismatch(expected, text).in1 - expected.begin();
-  const auto begin = expected.substr(0, static_cast<std::size_t>(same)).rfind('\n') + 1;
-  const auto line = [&](std::string_view whole) {
-    whole.remove_prefix(begin);
-    const auto length = std::min(whole.find('\n'), whole.size() - 1) + 1; // with its end, which may be what differs
-    return testing::PrintToString(std::string(whole.substr(0, length)));
-  };
-  ADD_FAILURE() << file.path.string() << ":" << std::count(expected.begin(), expected.begin() + same, '\n') + 1
-                << ": expected " << line(expected) << "\n  but got " << line(text)
-                << (file.is_recorded ? "\n(RAVIX_UPDATE_GOLDEN=1 rewrites the file)" : "\n(written by hand)");
 }
 
 std::string logged(captured_log &log) {

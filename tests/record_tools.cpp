@@ -176,16 +176,10 @@ void fill_field(const zel::ravix::role_config<Member> & /*field*/, R &r, randomn
   } while (r.*Member == nullptr && random.kind != variety::hostile); // a role without it is refused
 }
 
-void choose(ravix_cfg_auto_update_rule_t &rule, randomness &random) {
-  rule.type = 1 + random.up_to(1);
-}
-void choose(ravix_cfg_role_static_t &role, randomness &random) {
-  role.op_mode = static_cast<std::uint8_t>(random.up_to(UINT8_MAX));
-}
 template <class Tag, class First, class Second, class R>
 void fill_field(const zel::ravix::tagged<Tag, First, Second> &field, R &r, randomness &random) {
   while (field.which(r) == 0 && random.kind != variety::hostile) {
-    choose(r, random);
+    r.*Tag::member = static_cast<std::uint8_t>(random.up_to(RAVIX_ROLE_OPMODE_INVALID_MAX));
   }
   field.use(r, [&](const auto &chosen) { fill_field(chosen, r, random); });
 }
@@ -259,8 +253,9 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
   row.order = order_any<R>;
   if constexpr (requires { operations::compare; }) {
     row.compare = erased<operations::compare>::call;
-    row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *name) {
-      print_diff(os, *static_cast<const R *>(r), static_cast<const R *>(ref), name, 1, true);
+    row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *name, unsigned indent,
+                        bool newline) {
+      print_diff(os, *static_cast<const R *>(r), static_cast<const R *>(ref), name, indent, newline);
     };
   }
   if constexpr (requires(std::ostream & os, const R &r) { os << r; }) {
@@ -400,10 +395,10 @@ void trial::print(const records &all) {
     type.print(out, all.source);
   }
   if (type.print_diff != nullptr) {
-    type.print_diff(changes, all.source, all.dest, nullptr);
+    type.print_diff(changes, all.source, all.dest, nullptr, 1, true);
     require(changes.str().empty() == (type.compare(all.source, all.dest) == 0), "a print of what differs");
-    type.print_diff(out, all.source, nullptr, "name");
-    type.print_diff(out, all.dest, all.source, nullptr);
+    type.print_diff(out, all.source, nullptr, "name", 1, true);
+    type.print_diff(out, all.dest, all.source, nullptr, 1, true);
   }
   require((out.str() + changes.str()).find('\0') == std::string::npos, "what is printed is text");
   require(log.take().empty(), "printing logs nothing");

@@ -78,7 +78,8 @@ struct record_type {
   int (*compare)(const void *a, const void *b); // null for what is not compared
   // Null for what is not printed.
   void (*print)(std::ostream &os, const void *value);
-  void (*print_diff)(std::ostream &os, const void *value, const void *ref, const char *name);
+  void (*print_diff)(std::ostream &os, const void *value, const void *ref, const char *name, unsigned indent,
+                     bool newline);
 
   // Of tables; else null.
   std::size_t element_size;

@@ -164,9 +164,6 @@ private:
 template <class R> std::string difference(const R &a, const R &b) {
   return type_of(typeid(R)).difference(&a, &b);
 }
-template <class R> std::string name_of() {
-  return type_of(typeid(R)).name;
-}
 
 template <class R> struct sample : any_sample {
   R &value = *static_cast<R *>(static_cast<void *>(*this));

@@ -48,10 +48,8 @@ static const ravix_start_scan_response_t scan_is_pending = {.status = RAVIX_STAT
 static const ravix_get_scan_results_request_t results_request = {.radio_id = 2, .selective_scan_results = true};
 static const ravix_get_scan_results_response_t results_response = {.status = RAVIX_STATUS_FINISHED,
                                                                    .scan_results = &scan_results};
-static const ravix_get_scan_results_response_t no_results = {.status = RAVIX_STATUS_TIMEOUT, .scan_results = NULL};
 static const ravix_event_scan_results_t scan_finished = {.radio_id = 2, .scan_parameter = &scan_parameter,
                                                          .scan_results = &scan_results};
-static const ravix_event_scan_results_t scan_failed = {.radio_id = 2, .scan_parameter = NULL, .scan_results = NULL};
 
 static ravix_channel_entry_t channels[] = {
     {.frequency = 5180000, .max_power = 23,
@@ -276,13 +274,12 @@ static const radiod_hal_event_scan_fail_t scan_fails = {.radio_id = 3, .status =
 /* Those to be printed that stand in no other. */
 #define SPECIMENS(each)                                                                                                \
   each(scan_request) each(scan_of_all_radios) each(scan_is_pending) each(results_request) each(results_response)       \
-  each(no_results) each(scan_finished) each(scan_failed) each(channel_list) each(radio_load) each(radio_airtime)       \
-  each(station_table) each(remote_client_table) each(remote_ap_table) each(station_history) each(device_settings)      \
-  each(update_of_guests) each(update_of_features) each(chip) each(radio_6ghz) each(radio_state) each(home_network)     \
-  each(guest_network) each(uplink) each(home_state) each(element_table) each(client_is_slow) each(green_ap)            \
-  each(radar_avoided) each(microwave_oven) each(cac) each(radar) each(precac) each(client_connects)                    \
-  each(client_wakes) each(client_goes) each(hw_init) each(hw_deinit) each(set_config) each(check_config)               \
-  each(firmware_hangs) each(scan_fails)
+  each(scan_finished) each(channel_list) each(radio_load) each(radio_airtime) each(station_table)                      \
+  each(remote_client_table) each(remote_ap_table) each(station_history) each(device_settings) each(update_of_guests)   \
+  each(update_of_features) each(chip) each(radio_6ghz) each(radio_state) each(home_network) each(guest_network)        \
+  each(uplink) each(home_state) each(element_table) each(client_is_slow) each(green_ap) each(radar_avoided)            \
+  each(microwave_oven) each(cac) each(radar) each(precac) each(client_connects) each(client_wakes) each(client_goes)   \
+  each(hw_init) each(hw_deinit) each(set_config) each(check_config) each(firmware_hangs) each(scan_fails)
 
 /* The records in these, one of each type at least. */
 #define PARTS_OF_SPECIMENS(each)                                                                                       \

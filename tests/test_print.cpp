@@ -97,6 +97,10 @@ TEST(Specimens, PrintAsWritten) {
   add("airtimes of few digits and of many", text(harness::type_of(typeid(airtimes)), &airtimes));
   const ravix_tlv_t full_row{7, 16, vendor_octets};
   add("an element of a full row", whole(harness::type_of(typeid(full_row)), &full_row));
+  std::vector<std::uint8_t> octets(UINT8_MAX);
+  const ravix_tlv_t longest{7, UINT8_MAX, octets.data()};
+  const std::string rows = whole(harness::type_of(typeid(longest)), &longest);
+  EXPECT_TRUE(std::ranges::count(rows, '\n') == 17 && rows.find("\n000000f0: 00 ") != std::string::npos) << rows;
   sections.expect("specimens");
 }
 

@@ -288,16 +288,15 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
 
 // Calls check(name, print) for each print of a part to a stream.
 template <class Check> void for_each_print(Check check) {
-  for (const auto &[name, type, record] : parts) {
-    const auto diff_to = [&](const void *reference, const char *label, unsigned indent, bool newline) {
-      check(name, [&](std::ostream &stream) { type.print_diff(stream, record, reference, label, indent, newline); });
-    };
+  for (const specimen &part : parts) {
+    const record_type &type = part.type;
     if (type.print != nullptr) {
-      check(name, [&](std::ostream &stream) { type.print(stream, record); });
+      check(part.name, [&](std::ostream &stream) { type.print(stream, part.record); });
     }
     if (type.print_diff != nullptr) {
-      diff_to(nullptr, "value", 1, true);
-      diff_to(any_sample(type), nullptr, 0, false);
+      const any_sample empty(type);
+      check(part.name, [&](std::ostream &stream) { type.print_diff(stream, part.record, nullptr, "value", 1, true); });
+      check(part.name, [&](std::ostream &stream) { type.print_diff(stream, part.record, empty, nullptr, 0, false); });
     }
   }
 }

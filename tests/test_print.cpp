@@ -190,12 +190,12 @@ std::string judged_difference(const std::string &value, const std::string &refer
 TEST(Differences, ShowTheFieldsThatDifferAlone) {
   std::set<std::string> unheeded;
   for (const auto &[name, type, record] : parts) {
-    const auto expect = [&, &type = type](const void *value, const void *reference) {
+    const auto expect = [](const record_type &of, const void *value, const void *reference) {
       const auto without_secrets = [](const std::string &shown) {
         return std::regex_replace(shown, std::regex(" *(key|secret): .SECRET.\n"), "");
       };
-      EXPECT_EQ(without_secrets(diff(type, value, reference)),
-                without_secrets(judged_difference(whole(type, value), whole(type, reference))));
+      EXPECT_EQ(without_secrets(diff(of, value, reference)),
+                without_secrets(judged_difference(whole(of, value), whole(of, reference))));
     };
     for (const auto &field : type.fields) {
       std::vector<std::byte> other(type.size); // shares what the specimen has
@@ -206,8 +206,8 @@ TEST(Differences, ShowTheFieldsThatDifferAlone) {
         unheeded.insert(type.name + "." + field.name);
       } else if (is_of_fields(type)) {
         SCOPED_TRACE(name + "." + field.name);
-        expect(other.data(), record);
-        expect(record, other.data());
+        expect(type, other.data(), record);
+        expect(type, record, other.data());
       }
     }
   }
@@ -254,10 +254,10 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
     if (type.init == nullptr) {
       continue;
     }
-    const auto shown = [&type = type](const void *table) {
-      return type.print != nullptr ? text(type, table) : diff(type, table, nullptr, nullptr, 0, false);
+    const auto shown = [](const record_type &of, const void *table) {
+      return of.print != nullptr ? text(of, table) : diff(of, table, nullptr, nullptr, 0, false);
     };
-    const std::string some = shown(record);
+    const std::string some = shown(type, record);
     std::smatch begin; // the names of columns, and the first index
     std::regex_search(some, begin, std::regex("^(\\[.*[|].*\n)?(?:\\[([A-Z ]+ )?0\\]:[ \n])?"));
     const std::string columns = begin[1], heading = begin[2];
@@ -276,10 +276,10 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
         } else {
           expected += i == 0 ? "" : ", ";
         }
-        expected += shown(one).substr(begin[0].str().size());
+        expected += shown(type, one).substr(begin[0].str().size());
       }
       const bool is_too_long = count > 50 && columns.empty() && heading.empty();
-      EXPECT_EQ(shown(many), is_too_long ? "-- too many entries --" : expected) << name;
+      EXPECT_EQ(shown(type, many), is_too_long ? "-- too many entries --" : expected) << name;
     }
   }
 }

@@ -15,8 +15,10 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -42,23 +44,38 @@ template <class Check> void for_each_table(Check check) {
 
 template <class M> struct member_alone { M member; };
 
-// Each member begins where the one before it ends, but for what its alignment takes.
+// A member of a structure, and the field that it is of.
+struct member {
+  const char *field;
+  std::size_t field_offset; // of the first of its members
+  std::size_t offset, size, alignment;
+};
+
+// Each begins where the one before it ends, but for what its alignment takes.
+void expect_to_cover(std::size_t size, const std::vector<member> &members) {
+  std::size_t end = 0, widest = 1;
+  const auto aligned = [&](std::size_t alignment) { return (end + alignment - 1) / alignment * alignment; };
+  std::map<std::string_view, std::size_t> begins; // of fields
+  for (const member &each : members) {
+    EXPECT_EQ(each.offset, aligned(each.alignment)) << "at " << each.field;
+    EXPECT_EQ(each.field_offset, begins.try_emplace(each.field, each.offset).first->second) << "at " << each.field;
+    widest = std::max(widest, each.alignment);
+    end = each.offset + each.size;
+  }
+  EXPECT_EQ(size, aligned(widest));
+}
+
 TEST(AllRecords, FieldListsCoverTheStructuresInOrder) {
   harness::for_all_records([]<class R>() {
     const harness::sample<R> r;
-    std::size_t end = 0;
-    const auto aligned = [&](std::size_t alignment) { return (end + alignment - 1) / alignment * alignment; };
+    std::vector<member> members;
     zel::ravix::for_each_field<R>([&](const auto &field) {
-      std::size_t begin = SIZE_MAX;
-      field.members(r.value, [&]<class M>(const M &member) {
-        const auto offset = reinterpret_cast<std::uintptr_t>(&member) - reinterpret_cast<std::uintptr_t>(&r.value);
-        EXPECT_EQ(offset, aligned(alignof(member_alone<M>))) << "at " << field.name;
-        begin = std::min(begin, offset);
-        end = offset + sizeof(M);
+      field.members(r.value, [&]<class M>(const M &value) {
+        const auto offset = reinterpret_cast<std::uintptr_t>(&value) - reinterpret_cast<std::uintptr_t>(&r.value);
+        members.push_back({field.name, field.offset, offset, sizeof(member_alone<M>), alignof(member_alone<M>)});
       });
-      EXPECT_EQ(field.offset, begin) << "at " << field.name;
     });
-    EXPECT_EQ(sizeof(R), aligned(alignof(R)));
+    expect_to_cover(sizeof(R), members);
   });
 }
 

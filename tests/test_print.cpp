@@ -282,6 +282,11 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
       EXPECT_EQ(shown(type, many), is_too_long ? "-- too many entries --" : expected) << name;
     }
   }
+  std::uint32_t frequencies[51] = {};
+  ravix_scan_parameter_t parameter = scan_parameter;
+  parameter.frequencies = {51, frequencies};
+  const std::string deeper = text(harness::type_of(typeid(parameter)), &parameter);
+  EXPECT_NE(deeper.find(" frequencies:\n  -- too many entries --\n ssids:"), std::string::npos) << deeper;
 }
 
 // ---- secrets

@@ -4,6 +4,7 @@
 #include "zelcsock/clog.h"
 #include "zelcsock/slab.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -92,8 +93,13 @@ private:
       failed_[fail_all_ ? 1 : 0].emplace(file, line);
       return nullptr;
     }
+    void *block = std::calloc(count, size);
+    if (const std::size_t kept = size_of(old); old != nullptr) { // always moves, and leaves nothing of use behind
+      std::memcpy(block, old, std::min(kept, size));
+      std::memset(old, 0xA5, kept);
+      std::free(old);
+    }
     live_.erase(old);
-    void *block = old != nullptr ? std::realloc(old, size) : std::calloc(count, size);
     live_[block] = count * size;
     return block;
   }

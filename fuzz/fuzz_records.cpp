@@ -1,4 +1,4 @@
-// A pair of random records of any type, sent through all operations with the k-th allocation failed: what
+// A pair of random records of any type, sent through all operations with the k-th allocation failed, or none: what
 // harness::trial says holds. Both as JSON: a strict reader takes what is written and its difference, which leads from
 // one to the other and is empty for equal records alone; no secret is told.
 #include "fuzz.hpp"
@@ -38,7 +38,10 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   FuzzedDataProvider in(data, size);
   const auto &types = harness::record_types();
   const auto *type = types[in.ConsumeIntegral<uint8_t>() % types.size()];
-  const auto k = in.ConsumeIntegralInRange<std::size_t>(0, 40);
+  // Printers and a reader take three times as long as all the rest: not for each, nor for a kind of input that the
+  // search might prefer.
+  const bool is_shown = std::accumulate(data, data + size, 0U) % 16 == 0;
+  const auto k = in.ConsumeIntegralInRange<std::size_t>(1, 40);
   const bool onward = in.ConsumeBool();
   const auto kind = in.ConsumeBool() ? harness::variety::hostile : harness::variety::usual;
   const auto octets = in.ConsumeRemainingBytes<uint8_t>();
@@ -47,10 +50,9 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
   const harness::randomness first(chosen.first(half), kind);
   const harness::randomness second(chosen.subspan(half));
   harness::trial trial;
-  trial.run(*type, first, second, k, onward);
+  trial.run(*type, first, second, is_shown ? 0 : k, onward);
   fuzz::require(trial.broken.empty(), trial.broken.c_str());
-  // A reader takes twice as long as all the rest: not for each, nor for a kind of input that the search might prefer.
-  if (std::accumulate(data, data + size, 0U) % 16 == 0) {
+  if (is_shown) {
     check_json(*type, harness::any_sample(*type, first), harness::any_sample(*type, second));
   }
   return 0;

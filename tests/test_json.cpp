@@ -351,6 +351,10 @@ TEST(JsonWriters, StopAtTheFirstFailureAndPassItOn) {
   }
 }
 
+std::string refusal(const std::string &function, const std::string &argument) {
+  return "\n    ravix json/ravix_types_json " + function + ": Invalid pointer '" + argument + "'!";
+}
+
 TEST(JsonWriters, RefuseNullArgumentsInOneLine) {
   captured_log log;
   stopper target;
@@ -358,8 +362,7 @@ TEST(JsonWriters, RefuseNullArgumentsInOneLine) {
     const any_sample r(*type);
     const auto expect_refusal = [&](int code, const std::string &operation, const std::string &argument) {
       EXPECT_EQ(code, -22);
-      EXPECT_EQ(logged(log), "\n    ravix json/ravix_types_json " + type->prefix + operation + ": Invalid pointer '" +
-                                 argument + "'!");
+      EXPECT_EQ(logged(log), refusal(type->prefix + operation, argument));
     };
     const auto &[whole, diff] = json_functions_of(*type);
     expect_refusal(whole(nullptr, stopper::write, &target), "_to_json", "obj");

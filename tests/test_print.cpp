@@ -272,7 +272,9 @@ TEST(Tables, NumberTheirEntriesAndAreNotShownWhereThatIsTooLong) {
         std::string index = std::to_string(i);
         index.insert(0, heading.empty() ? std::to_string(count - 1).size() - index.size() : 0, ' ');
         if (some[0] == '[' || count > 5) {
-          expected += (i == 0 ? "[" : "\n[") + heading + index + (heading.empty() ? "]: " : "]:\n");
+          expected += i == 0 ? "[" : "\n[";
+          expected += heading + index;
+          expected += heading.empty() ? "]: " : "]:\n";
         } else {
           expected += i == 0 ? "" : ", ";
         }

@@ -198,15 +198,8 @@ template <class R> void fill(R &r, randomness &random) {
 }
 
 template <class R> int order(const R &a, const R &b, bool strictly) {
-  int order = 0;
-  zel::ravix::all_fields<R>([&](const auto &field) {
-    constexpr bool is_compared = !requires {
-      field.difference(a, b);
-    };
-    order = strictly || is_compared ? order_field(field, a, b, strictly) : 0;
-    return order == 0;
-  });
-  return order;
+  static const record_type &type = type_of(typeid(R));
+  return type.order(&a, &b, strictly);
 }
 
 // An operation on records of a type, as one on those of any type.
@@ -217,8 +210,19 @@ template <auto Operation> struct erased;
 template <class Result, class... A, Result (*Operation)(A...)> struct erased<Operation> {
   static untyped<Result> call(untyped<A>... arguments) { return Operation(static_cast<A>(arguments)...); }
 };
+template <class Kind, class R> int order_any_field(const void *kind, const void *a, const void *b, bool strictly) {
+  return order_field(*static_cast<const Kind *>(kind), *static_cast<const R *>(a), *static_cast<const R *>(b),
+                     strictly);
+}
 template <class T> int order_any(const void *a, const void *b, bool strictly) {
   return order_values(*static_cast<const T *>(a), *static_cast<const T *>(b), strictly);
+}
+
+void add_field(record_type &row, const field_type &field) {
+  if (!row.fields.empty()) {
+    row.fields.back().end = field.begin;
+  }
+  row.fields.push_back(field);
 }
 
 template <class R> record_type row_of(const char *prefix, const char *type, const char *source) {
@@ -227,13 +231,11 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
   row.name = std::string(type, std::strlen(type) - 2); // without "_t"
   row.info = &typeid(R);
   row.size = sizeof(R);
-  zel::ravix::for_each_field<R>([&](const auto &field) {
-    if (!row.fields.empty()) {
-      row.fields.back().end = field.offset;
-    }
-    row.fields.push_back({field.name, field.offset, sizeof(R), [&field](const void *a, const void *b, bool strictly) {
-                            return order_field(field, *static_cast<const R *>(a), *static_cast<const R *>(b), strictly);
-                          }});
+  zel::ravix::for_each_field<R>([&]<class Kind>(const Kind &field) {
+    constexpr bool is_compared = !requires(const R &r) {
+      field.difference(r, r);
+    };
+    add_field(row, {field.name, field.offset, sizeof(R), is_compared, &field, order_any_field<Kind, R>});
   });
   row.prefix = prefix;
   row.source = source;
@@ -244,7 +246,6 @@ template <class R> record_type row_of(const char *prefix, const char *type, cons
   row.clear = erased<operations::clear>::call;
   row.free = erased<operations::free>::call;
   row.fill = [](void *r, randomness &random) { fill(*static_cast<R *>(r), random); };
-  row.order = order_any<R>;
   if constexpr (requires { operations::compare; }) {
     row.compare = erased<operations::compare>::call;
     row.print_diff = [](std::ostream &os, const void *r, const void *ref, const char *name, unsigned indent,
@@ -306,6 +307,14 @@ bool field_type::has_same_octets(const void *a, const void *b) const {
 }
 void field_type::take(void *to, const void *from) const {
   std::memcpy(static_cast<char *>(to) + begin, static_cast<const char *>(from) + begin, end - begin);
+}
+
+int record_type::order(const void *a, const void *b, bool strictly) const {
+  int order = 0;
+  for (auto field = fields.begin(); order == 0 && field != fields.end(); ++field) {
+    order = strictly || field->is_compared ? field->compare(a, b, strictly) : 0;
+  }
+  return order;
 }
 
 std::string record_type::difference(const void *a, const void *b) const {

@@ -51,10 +51,14 @@ private:
 };
 
 struct field_type {
-  std::string name;
+  const char *name;
   std::size_t begin, end; // its octets in the record, and the padding behind them
+  bool is_compared;
+  const void *kind; // from the field list
+  int (*order)(const void *kind, const void *a, const void *b, bool strictly);
+
   // Negative, 0 or positive. Strictly, values differ too if they share memory, or in what no comparison heeds.
-  std::function<int(const void *a, const void *b, bool strictly)> compare;
+  int compare(const void *a, const void *b, bool strictly) const { return order(kind, a, b, strictly); }
 
   bool has_same_octets(const void *a, const void *b) const;
   void take(void *to, const void *from) const; // by octets, whatever they refer to
@@ -94,7 +98,7 @@ struct record_type {
   // Fills an empty record with what its own rules accept.
   void (*fill)(void *r, randomness &random);
   // What a comparison should give.
-  int (*order)(const void *a, const void *b, bool strictly);
+  int order(const void *a, const void *b, bool strictly) const;
   // Name of the first field that differs strictly; "" for records that are the same and share nothing.
   std::string difference(const void *a, const void *b) const;
   // "<source path> <function>" of the line that tells of a failed operation: "create", "copy" and so on. The function
